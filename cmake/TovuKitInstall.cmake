@@ -1,0 +1,32 @@
+# Install rules and the exported CMake package: find_package(tovukit_io) then
+# target_link_libraries(app PRIVATE tovukit::tovukit_io).
+include(CMakePackageConfigHelpers)
+
+get_property(layers GLOBAL PROPERTY TOVUKIT_LAYERS)
+install(TARGETS ${layers} tovukit_io
+  EXPORT tovukit_ioTargets
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+
+foreach(layer IN LISTS layers)
+  string(REPLACE "tovukit_" "" name ${layer})
+  get_property(headers GLOBAL PROPERTY TOVUKIT_HEADERS_${name})
+  install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tovukit_io/${name})
+endforeach()
+get_property(umbrella GLOBAL PROPERTY TOVUKIT_HEADERS_umbrella)
+install(FILES ${umbrella} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tovukit_io)
+
+set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tovukit_io)
+install(EXPORT tovukit_ioTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
+configure_package_config_file(
+  ${PROJECT_SOURCE_DIR}/cmake/tovukit_ioConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/tovukit_ioConfig.cmake
+  INSTALL_DESTINATION ${config_dir})
+write_basic_package_version_file(
+  ${PROJECT_BINARY_DIR}/tovukit_ioConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(FILES
+  ${PROJECT_BINARY_DIR}/tovukit_ioConfig.cmake
+  ${PROJECT_BINARY_DIR}/tovukit_ioConfigVersion.cmake
+  DESTINATION ${config_dir})

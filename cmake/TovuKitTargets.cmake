@@ -1,0 +1,47 @@
+# Shared compile settings for every TovuKit target.
+include(GNUInstallDirs)
+
+# Warnings, strict Qt defines and the optional -Werror, applied to one target.
+function(tovukit_apply_settings target)
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "INTERFACE_LIBRARY")
+    return()
+  endif()
+  target_compile_features(${target} PUBLIC cxx_std_23)
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_USE_QSTRINGBUILDER
+    QT_STRICT_ITERATORS)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+      -Wold-style-cast -Wcast-align -Woverloaded-virtual -Wconversion -Wsign-conversion
+      -Wnull-dereference -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough
+      # Designated initializers leave the other members defaulted on purpose.
+      -Wno-missing-field-initializers)
+    if(TOVUKIT_WERROR)
+      target_compile_options(${target} PRIVATE -Werror)
+    endif()
+  endif()
+endfunction()
+
+# One layer of the library: a static target named tovukit_<layer> whose public
+# headers live beside its sources and are included as <tovukit_io/<layer>/X.h>.
+function(tovukit_add_layer layer)
+  cmake_parse_arguments(ARG "" "" "SOURCES;HEADERS;PUBLIC_LINK;PRIVATE_LINK" ${ARGN})
+  set(target tovukit_${layer})
+  add_library(${target} STATIC ${ARG_SOURCES} ${ARG_HEADERS})
+  add_library(tovukit::${target} ALIAS ${target})
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON EXPORT_NAME ${target})
+  target_include_directories(${target} PUBLIC
+    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>"
+    "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
+  target_link_libraries(${target} PUBLIC ${ARG_PUBLIC_LINK} PRIVATE ${ARG_PRIVATE_LINK})
+  tovukit_apply_settings(${target})
+  set_property(GLOBAL APPEND PROPERTY TOVUKIT_LAYERS ${target})
+  set_property(GLOBAL APPEND PROPERTY TOVUKIT_HEADERS_${layer} ${ARG_HEADERS})
+endfunction()
