@@ -1,0 +1,66 @@
+#pragma once
+
+// Small helpers shared by the coding tests: key lists of encoded objects and
+// one assertion for the domain, code and message of a coding failure.
+
+#include <tovukit_io/model/TovuCodingError.h>
+#include <tovukit_io/model/TovuDecode.h>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace TovuCodingAssertions {
+
+using Json = nlohmann::ordered_json;
+using Code = TovuCodingError::Code;
+
+inline std::vector<std::string> keysOf(const Json &object)
+{
+    std::vector<std::string> keys;
+    for (auto it = object.begin(); it != object.end(); ++it)
+        keys.push_back(it.key());
+    return keys;
+}
+
+// The keys of an encoded text, in the order they were written.
+inline std::vector<std::string> keysOf(std::string_view text)
+{
+    return keysOf(Json::parse(text));
+}
+
+enum class Match { exact, prefix };
+
+template<class T>
+::testing::AssertionResult failsWith(const TovuResult<T> &result, Code code, std::string_view message,
+                                     Match match = Match::exact)
+{
+    if (result)
+        return ::testing::AssertionFailure() << "succeeded, expected \"" << message << '"';
+    const TovuError &error = result.error();
+    const bool messageMatches
+        = match == Match::exact ? error.message == message : std::string_view(error.message).starts_with(message);
+    if (error.domain != TovuCodingError::domain || error.code != static_cast<int>(code) || !messageMatches) {
+        return ::testing::AssertionFailure() << "got {" << error.domain << ", " << error.code << ", \"" << error.message
+                                             << "\"}, expected {" << static_cast<int>(code) << ", \"" << message
+                                             << '"' << (match == Match::prefix ? "..." : "") << '}';
+    }
+    return ::testing::AssertionSuccess();
+}
+
+template<class T>
+::testing::AssertionResult failsWithPrefix(const TovuResult<T> &result, Code code, std::string_view prefix)
+{
+    return failsWith(result, code, prefix, Match::prefix);
+}
+
+template<class T>
+TovuResult<T> decodeJson(const Json &json)
+{
+    return tovuDecode<T>(json.dump());
+}
+
+} // namespace TovuCodingAssertions
