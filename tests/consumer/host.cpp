@@ -7,8 +7,8 @@
 
 int main()
 {
-    const auto document = tovuDecode<TovuAPIMainResponse>(
-        R"({"data": {"uuid": "s1", "displayTitle": "Host check", "blocks": []}})");
+    const auto document
+        = tovuDecode<TovuAPIMainResponse>(R"({"data": {"uuid": "s1", "displayTitle": "Host check", "blocks": []}})");
     if (!document) {
         std::cerr << "consumer: " << document.error().localizedDescription() << '\n';
         return 1;

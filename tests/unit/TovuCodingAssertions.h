@@ -27,7 +27,7 @@ inline std::vector<std::string> keysOf(const Json &object)
 }
 
 // The keys of an encoded text, in the order they were written.
-inline std::vector<std::string> keysOf(std::string_view text)
+inline std::vector<std::string> keysOfText(std::string_view text)
 {
     return keysOf(Json::parse(text));
 }
@@ -55,6 +55,14 @@ template<class T>
 ::testing::AssertionResult failsWithPrefix(const TovuResult<T> &result, Code code, std::string_view prefix)
 {
     return failsWith(result, code, prefix, Match::prefix);
+}
+
+// The encoded text, or a description of the failure that no expectation matches.
+template<class T>
+std::string encodedText(const T &value)
+{
+    const TovuResult<std::string> text = tovuEncode(value);
+    return text ? *text : "<encoding failed: " + text.error().message + ">";
 }
 
 template<class T>

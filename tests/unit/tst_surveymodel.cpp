@@ -58,7 +58,7 @@ TEST(SurveyModelCoding, NullAndMissingFields)
     EXPECT_FALSE(question->subtitle);
     EXPECT_FALSE(question->options);
     EXPECT_FALSE(question->npsLabels);
-    EXPECT_EQ(keysOf(*tovuEncode(*question)), (std::vector<std::string>{"id", "type", "title", "isRequired"}));
+    EXPECT_EQ(keysOfText(encodedText(*question)), (std::vector<std::string>{"id", "type", "title", "isRequired"}));
 
     // An empty string and an empty list are values, not absence.
     json["subtitle"] = "";
@@ -67,7 +67,7 @@ TEST(SurveyModelCoding, NullAndMissingFields)
     ASSERT_TRUE(withEmpty);
     EXPECT_EQ(withEmpty->subtitle, std::string());
     EXPECT_EQ(withEmpty->options, std::vector<TovuChoice>{});
-    EXPECT_EQ(*tovuEncode(*withEmpty), R"({"id":"q1","type":"NPS","title":"How likely?","subtitle":"",)"
+    EXPECT_EQ(encodedText(*withEmpty), R"({"id":"q1","type":"NPS","title":"How likely?","subtitle":"",)"
                                        R"("isRequired":true,"options":[]})");
 
     // Keys are case-sensitive: "ID" is an unknown key, so "id" is missing.
@@ -99,14 +99,14 @@ TEST(SurveyModelCoding, EmptyQuestionListAndEmptyTheme)
     EXPECT_TRUE(survey->questions.empty());
     EXPECT_FALSE(survey->theme);
     // The required list is written even when empty.
-    EXPECT_EQ(*tovuEncode(*survey), R"({"id":"s1","name":"Survey","questions":[]})");
+    EXPECT_EQ(encodedText(*survey), R"({"id":"s1","name":"Survey","questions":[]})");
 
     Json withTheme = surveyWith({});
     withTheme["theme"] = Json::object();
     const auto themed = decodeJson<TovuSurvey>(withTheme);
     ASSERT_TRUE(themed) << themed.error().message;
     EXPECT_EQ(themed->theme, TovuTheme{});
-    EXPECT_EQ(*tovuEncode(TovuTheme{}), "{}");
+    EXPECT_EQ(encodedText(TovuTheme{}), "{}");
 
     EXPECT_TRUE(failsWith(decodeJson<TovuSurvey>(Json{{"id", "s"}, {"name", "n"}, {"questions", Json::object()}}),
                           Code::typeMismatch, "questions: expected array, found object"));
@@ -147,7 +147,7 @@ TEST(SurveyModelCoding, ThemeNumbers)
     const auto encoded = tovuEncode(TovuTheme{.transparency = 0.2f});
     ASSERT_TRUE(encoded);
     EXPECT_EQ(*encoded, R"({"transparency":0.2})");
-    EXPECT_EQ(tovuDecode<TovuTheme>(*encoded)->transparency, 0.2f);
+    EXPECT_EQ(tovuDecode<TovuTheme>(*encoded), TovuTheme{.transparency = 0.2f});
 }
 
 // --- Raw-value tables --------------------------------------------------------
@@ -171,7 +171,7 @@ TEST_P(QuestionTypeRawValue, ConvertsBothWaysAndThroughJson)
     const auto question = decodeJson<TovuQuestion>(json);
     ASSERT_TRUE(question) << question.error().message;
     EXPECT_EQ(question->type, type);
-    EXPECT_EQ(Json::parse(*tovuEncode(*question))["type"], text);
+    EXPECT_EQ(Json::parse(encodedText(*question))["type"], text);
 
     // Only the exact text converts.
     std::string lower = text;
@@ -213,7 +213,7 @@ TEST(RawValues, ThemeModesConvertExactly)
         const auto theme = decodeJson<TovuTheme>(Json{{"mode", text}});
         ASSERT_TRUE(theme);
         EXPECT_EQ(theme->mode, mode);
-        EXPECT_EQ(*tovuEncode(*theme), R"({"mode":")" + text + R"("})");
+        EXPECT_EQ(encodedText(*theme), R"({"mode":")" + text + R"("})");
     }
     for (const char *wrong : {"Light", "DARK", "Auto", "automatic", ""})
         EXPECT_EQ(fromRawValue<TovuThemeMode>(wrong), std::nullopt) << wrong;
@@ -332,7 +332,7 @@ TEST(SurveyModelCoding, UnknownKeysAreIgnoredAtEveryLevel)
     EXPECT_EQ(decoded->theme, TovuTheme{.mode = TovuThemeMode::dark});
     EXPECT_EQ(decoded->introPage, TovuSurveyPage{.enabled = true});
     // Nothing unknown is written back.
-    const Json reencoded = Json::parse(*tovuEncode(*decoded));
+    const Json reencoded = Json::parse(encodedText(*decoded));
     EXPECT_FALSE(reencoded.contains("version"));
     EXPECT_FALSE(reencoded["questions"][0].contains("extra"));
 }

@@ -12,7 +12,7 @@ void TovuCodingError::prependKey(std::string_view key)
     std::string segment(key);
     if (!m_path.empty() && m_path.front() != '[')
         segment += '.';
-    prepend(std::move(segment));
+    prepend(segment);
 }
 
 void TovuCodingError::prependIndex(std::size_t index)
@@ -20,10 +20,10 @@ void TovuCodingError::prependIndex(std::size_t index)
     std::string segment = '[' + std::to_string(index) + ']';
     if (!m_path.empty() && m_path.front() != '[')
         segment += '.';
-    prepend(std::move(segment));
+    prepend(segment);
 }
 
-void TovuCodingError::prepend(std::string segment)
+void TovuCodingError::prepend(const std::string &segment)
 {
     m_path.insert(0, segment);
     m_message = m_path + ": " + m_reason;

@@ -45,7 +45,7 @@ public:
     TovuError toError() const;
 
 private:
-    void prepend(std::string segment);
+    void prepend(const std::string &segment);
 
     Code m_code;
     std::string m_path;

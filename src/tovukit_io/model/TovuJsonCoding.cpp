@@ -107,11 +107,10 @@ const Json *member(const Json &object, std::string_view key)
     return nullptr;
 }
 
-const Json &expectObject(const Json &value, std::string_view record)
+void requireObject(const Json &value, std::string_view record)
 {
     if (!value.is_object())
         throwMismatch(std::string(record) + " object", value);
-    return value;
 }
 
 Json parse(std::string_view text)

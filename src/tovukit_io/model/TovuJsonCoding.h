@@ -39,7 +39,7 @@ std::string_view kindName(const Json &value);
 const Json *member(const Json &object, std::string_view key);
 
 /// Throws unless `value` is an object; `record` names what was expected.
-const Json &expectObject(const Json &value, std::string_view record);
+void requireObject(const Json &value, std::string_view record);
 
 /// Parses a whole document after checking its size and nesting depth.
 Json parse(std::string_view text);
@@ -276,12 +276,12 @@ template<class Record>
 void decodeRecord(const Json &json, Record &out)
 {
     using Table = RecordFields<Record>;
-    const Json &object = expectObject(json, Table::name);
+    requireObject(json, Table::name);
     // Fields are read in declared order and the first failure stops the
     // decoding; `out` changes only once the whole record has been read.
     Record record{};
     std::apply(
-        [&](const auto &...fields) { (decodeMember(object, fields.key, record.*(fields.member), Table::name), ...); },
+        [&](const auto &...fields) { (decodeMember(json, fields.key, record.*(fields.member), Table::name), ...); },
         Table::fields);
     out = std::move(record);
 }

@@ -2,8 +2,6 @@
 
 #include <tovukit_io/model/TovuJsonCoding.h>
 
-using tovu::json::field;
-
 template<>
 struct tovu::json::RecordFields<TovuAnswerValue> {
     static constexpr std::string_view name = "TovuAnswerValue";

@@ -1,0 +1,45 @@
+#pragma once
+
+// Checks shared by the fuzz targets. A broken invariant prints what went wrong
+// and aborts, which both libFuzzer and the replay main report as a failure of
+// the current input.
+
+#include <tovukit_io/model/TovuDecode.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <utility>
+
+[[noreturn]] inline void tovuFuzzFail(std::string_view what, std::string_view detail = {})
+{
+    std::fprintf(stderr, "fuzz check failed: %.*s\n", static_cast<int>(what.size()), what.data());
+    if (!detail.empty())
+        std::fprintf(stderr, "%.*s\n", static_cast<int>(detail.size()), detail.data());
+    std::fflush(stderr);
+    std::abort();
+}
+
+/// Encodes a decoded value, decodes the text again and requires the same value
+/// back, and the same text when that value is encoded once more. Everything a
+/// decoder accepts must survive storage: the offline queue and the tools write
+/// what they read.
+template<class T>
+std::string tovuFuzzCheckRoundTrip(const T &value)
+{
+    TovuResult<std::string> encoded = tovuEncode(value);
+    if (!encoded)
+        tovuFuzzFail("a decoded value does not encode", encoded.error().localizedDescription());
+
+    const TovuResult<T> decoded = tovuDecode<T>(*encoded);
+    if (!decoded)
+        tovuFuzzFail("an encoded value does not decode", decoded.error().localizedDescription() + "\n" + *encoded);
+    if (!(*decoded == value))
+        tovuFuzzFail("the round trip changed the value", *encoded);
+
+    const TovuResult<std::string> again = tovuEncode(*decoded);
+    if (!again || *again != *encoded)
+        tovuFuzzFail("encoding is not stable", *encoded + "\n" + again.value_or("(failed)"));
+    return std::move(*encoded);
+}
