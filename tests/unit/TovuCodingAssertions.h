@@ -5,10 +5,14 @@
 
 #include <tovukit_io/model/TovuCodingError.h>
 #include <tovukit_io/model/TovuDecode.h>
+#include <tovukit_io/model/TovuQueuedResponse.h>
+#include <tovukit_io/model/TovuSurvey.h>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <optional>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,9 +48,9 @@ template<class T>
     const bool messageMatches
         = match == Match::exact ? error.message == message : std::string_view(error.message).starts_with(message);
     if (error.domain != TovuCodingError::domain || error.code != static_cast<int>(code) || !messageMatches) {
-        return ::testing::AssertionFailure() << "got {" << error.domain << ", " << error.code << ", \"" << error.message
-                                             << "\"}, expected {" << static_cast<int>(code) << ", \"" << message
-                                             << '"' << (match == Match::prefix ? "..." : "") << '}';
+        return ::testing::AssertionFailure()
+            << "got {" << error.domain << ", " << error.code << ", \"" << error.message << "\"}, expected {"
+            << static_cast<int>(code) << ", \"" << message << '"' << (match == Match::prefix ? "..." : "") << '}';
     }
     return ::testing::AssertionSuccess();
 }
@@ -65,6 +69,26 @@ std::string encodedText(const T &value)
     return text ? *text : "<encoding failed: " + text.error().message + ">";
 }
 
+// A copy of `json` with the value at a JSON pointer replaced, or removed when
+// `value` is absent.
+inline Json changed(Json json, const std::string &pointer, const std::optional<Json> &value)
+{
+    const Json::json_pointer at(pointer);
+    if (value)
+        json[at] = *value;
+    else
+        json[at.parent_pointer()].erase(at.back());
+    return json;
+}
+
+// One damaged document and the failure it must produce.
+struct Damage {
+    std::string pointer;
+    std::optional<Json> value; ///< absent: remove the key
+    Code code;
+    std::string message;
+};
+
 template<class T>
 TovuResult<T> decodeJson(const Json &json)
 {
@@ -72,3 +96,32 @@ TovuResult<T> decodeJson(const Json &json)
 }
 
 } // namespace TovuCodingAssertions
+
+// Failure output shows records as their JSON rather than as raw bytes.
+#define TOVU_PRINT_AS_JSON(Record)                             \
+    inline void PrintTo(const Record &value, std::ostream *os) \
+    {                                                          \
+        *os << TovuCodingAssertions::encodedText(value);       \
+    }
+TOVU_PRINT_AS_JSON(TovuChoice)
+TOVU_PRINT_AS_JSON(TovuNPSLabels)
+TOVU_PRINT_AS_JSON(TovuConditionalFollowUp)
+TOVU_PRINT_AS_JSON(TovuQuestion)
+TOVU_PRINT_AS_JSON(TovuSurveyPage)
+TOVU_PRINT_AS_JSON(TovuTheme)
+TOVU_PRINT_AS_JSON(TovuSurvey)
+TOVU_PRINT_AS_JSON(TovuAnswerValue)
+TOVU_PRINT_AS_JSON(TovuAnswer)
+TOVU_PRINT_AS_JSON(TovuQualityFlags)
+TOVU_PRINT_AS_JSON(TovuGeolocation)
+TOVU_PRINT_AS_JSON(TovuQueuedResponse)
+#undef TOVU_PRINT_AS_JSON
+
+template<class T>
+void PrintTo(const TovuResult<T> &result, std::ostream *os)
+{
+    if (result)
+        *os << ::testing::PrintToString(*result);
+    else
+        *os << "error \"" << result.error().message << '"';
+}

@@ -15,9 +15,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <mutex>
 #include <string>
-#include <thread>
 #include <vector>
 
 using namespace TovuCodingAssertions;
@@ -31,8 +29,7 @@ constexpr std::size_t maxBytes = std::size_t{64} << 20;
 std::string surveyNestedTo(int levels)
 {
     const auto count = static_cast<std::size_t>(levels);
-    return R"({"id":"s","name":"n","questions":[],"extra":)" + std::string(count, '[') + std::string(count, ']')
-        + "}";
+    return R"({"id":"s","name":"n","questions":[],"extra":)" + std::string(count, '[') + std::string(count, ']') + "}";
 }
 
 } // namespace
@@ -58,8 +55,8 @@ TEST(DecodeLimits, MalformedJsonIsReportedNotThrown)
             EXPECT_TRUE(failsWithPrefix(tovuDecode<TovuSurvey>(document), Code::invalidJson, "invalid JSON: "));
             EXPECT_TRUE(failsWithPrefix(tovuDecode<std::vector<TovuQueuedResponse>>(document), Code::invalidJson,
                                         "invalid JSON: "));
-            EXPECT_TRUE(failsWithPrefix(tovuDecode<TovuAPIMainResponse>(document), Code::invalidJson,
-                                        "invalid JSON: "));
+            EXPECT_TRUE(
+                failsWithPrefix(tovuDecode<TovuAPIMainResponse>(document), Code::invalidJson, "invalid JSON: "));
         });
     }
     // Valid UTF-8 beyond ASCII is text like any other.
@@ -73,12 +70,14 @@ TEST(DecodeLimits, WrongTopLevelKindNamesTheRecord)
     EXPECT_TRUE(failsWith(tovuDecode<TovuSurvey>("[]"), Code::typeMismatch, "expected TovuSurvey object, found array"));
     EXPECT_TRUE(failsWith(tovuDecode<TovuQueuedResponse>("42"), Code::typeMismatch,
                           "expected TovuQueuedResponse object, found integer"));
-    EXPECT_TRUE(failsWith(tovuDecode<TovuQuestion>("2.5"), Code::typeMismatch,
-                          "expected TovuQuestion object, found number"));
+    EXPECT_TRUE(
+        failsWith(tovuDecode<TovuQuestion>("2.5"), Code::typeMismatch, "expected TovuQuestion object, found number"));
     EXPECT_TRUE(failsWith(tovuDecode<TovuAPIMainResponse>(R"("data")"), Code::typeMismatch,
                           "expected TovuAPIMainResponse object, found string"));
-    EXPECT_TRUE(failsWith(tovuDecode<TovuTheme>("true"), Code::typeMismatch, "expected TovuTheme object, found boolean"));
-    EXPECT_TRUE(failsWith(tovuDecode<TovuSurvey>("null"), Code::valueNotFound, "expected TovuSurvey object, found null"));
+    EXPECT_TRUE(
+        failsWith(tovuDecode<TovuTheme>("true"), Code::typeMismatch, "expected TovuTheme object, found boolean"));
+    EXPECT_TRUE(
+        failsWith(tovuDecode<TovuSurvey>("null"), Code::valueNotFound, "expected TovuSurvey object, found null"));
 }
 
 TEST(DecodeLimits, NestingDepthIsLimitedOutsideStrings)
@@ -96,8 +95,8 @@ TEST(DecodeLimits, NestingDepthIsLimitedOutsideStrings)
     for (int i = 0; i < 65; ++i)
         objects += R"({"a":)";
     objects += "1" + std::string(65, '}');
-    EXPECT_TRUE(failsWith(tovuDecode<TovuTheme>(objects), Code::limitExceeded,
-                          "document is nested deeper than 64 levels"));
+    EXPECT_TRUE(
+        failsWith(tovuDecode<TovuTheme>(objects), Code::limitExceeded, "document is nested deeper than 64 levels"));
 
     // Brackets inside strings are text, also after an escaped quote.
     const std::string brackets = std::string(70, '[') + std::string(70, '{');
@@ -106,8 +105,8 @@ TEST(DecodeLimits, NestingDepthIsLimitedOutsideStrings)
     EXPECT_EQ(inString->name, '"' + brackets);
 
     // A string that ends in an escaped backslash really ends: what follows counts.
-    const std::string afterBackslash = R"({"id":"s\\","name":"n","questions":[],"extra":)" + std::string(64, '[')
-        + std::string(64, ']') + "}";
+    const std::string afterBackslash
+        = R"({"id":"s\\","name":"n","questions":[],"extra":)" + std::string(64, '[') + std::string(64, ']') + "}";
     EXPECT_TRUE(failsWith(tovuDecode<TovuSurvey>(afterBackslash), Code::limitExceeded,
                           "document is nested deeper than 64 levels"));
 }
@@ -149,8 +148,11 @@ TEST(DecodeLimits, NumbersOutOfRangeAreTypeMismatches)
         SCOPED_TRACE(tooBig);
         EXPECT_TRUE(failsWithPrefix(transparency(tooBig), Code::typeMismatch, "transparency: "));
     }
+}
 
-    // A literal beyond double range is not JSON a number can hold.
+TEST(DecodeLimits, NumberBeyondDoubleRangeIsInvalidJson)
+{
+    // No double holds 1e400: the document is refused like any unreadable JSON.
     EXPECT_TRUE(failsWithPrefix(tovuDecode<TovuGeolocation>(R"({"type":"Point","coordinates":[1e400]})"),
                                 Code::invalidJson, "invalid JSON: "));
 }
@@ -166,7 +168,7 @@ struct HandlerReset {
 
 } // namespace
 
-TEST(Log, DefaultHandlerWritesLinesToStandardOutput)
+TEST(Log, HandlerReplacesStandardOutputUntilReset)
 {
     const HandlerReset reset;
     testing::internal::CaptureStdout();
@@ -174,11 +176,7 @@ TEST(Log, DefaultHandlerWritesLinesToStandardOutput)
     TovuLog::print("");
     TovuLog::print("two ✅");
     EXPECT_EQ(testing::internal::GetCapturedStdout(), ">>> Tovu SDK: one\n\ntwo ✅\n");
-}
 
-TEST(Log, HandlerReplacesStandardOutputUntilReset)
-{
-    const HandlerReset reset;
     std::vector<std::string> lines;
     TovuLog::setHandler([&lines](std::string_view line) { lines.emplace_back(line); });
     testing::internal::CaptureStdout();
@@ -187,18 +185,11 @@ TEST(Log, HandlerReplacesStandardOutputUntilReset)
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
     EXPECT_EQ(lines, (std::vector<std::string>{"first", "second"}));
 
-    // A later handler replaces the earlier one.
-    std::vector<std::string> others;
-    TovuLog::setHandler([&others](std::string_view line) { others.emplace_back(line); });
-    TovuLog::print("third");
-    EXPECT_EQ(lines.size(), 2u);
-    EXPECT_EQ(others, std::vector<std::string>{"third"});
-
     TovuLog::setHandler({});
     testing::internal::CaptureStdout();
     TovuLog::print("back");
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "back\n");
-    EXPECT_EQ(others.size(), 1u);
+    EXPECT_EQ(lines.size(), 2u);
 }
 
 TEST(Log, HandlerMayPrintAndReplaceItselfWithoutDeadlock)
@@ -224,26 +215,4 @@ TEST(Log, HandlerMayPrintAndReplaceItselfWithoutDeadlock)
     TovuLog::print("after");
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "after\n");
     EXPECT_EQ(lines, std::vector<std::string>{"once"});
-}
-
-TEST(Log, LinesFromManyThreadsAllArrive)
-{
-    const HandlerReset reset;
-    std::mutex mutex;
-    std::size_t count = 0;
-    TovuLog::setHandler([&](std::string_view line) {
-        const std::lock_guard lock(mutex);
-        if (line == "ping")
-            ++count;
-    });
-    std::vector<std::thread> threads;
-    for (int t = 0; t < 8; ++t) {
-        threads.emplace_back([] {
-            for (int i = 0; i < 500; ++i)
-                TovuLog::print("ping");
-        });
-    }
-    for (std::thread &thread : threads)
-        thread.join();
-    EXPECT_EQ(count, 8u * 500u);
 }

@@ -1,6 +1,8 @@
 // The sample survey documents shipped with the library decode, convert and
 // together exercise the whole question vocabulary.
 
+#include "TovuCodingAssertions.h"
+
 #include <TovuTestFiles.h>
 
 #include <tovukit_io/model/TovuDecode.h>
@@ -10,7 +12,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -31,11 +32,6 @@ Sample loadSample(const std::filesystem::path &path)
     return {decoded->data, decoded->data.toNativeSurvey()};
 }
 
-Sample loadNamedSample(const std::string &stem)
-{
-    return loadSample(TovuTestFiles::samplesDir() / (stem + ".json"));
-}
-
 // Every text the views show as it is, after conversion.
 std::vector<std::string> shownTexts(const TovuSurvey &survey)
 {
@@ -50,7 +46,8 @@ std::vector<std::string> shownTexts(const TovuSurvey &survey)
         texts.push_back(q.title);
         addChoices(q.options);
         addChoices(q.columns);
-        for (const TovuConditionalFollowUp &f : q.conditionalFollowUps.value_or(std::vector<TovuConditionalFollowUp>{})) {
+        for (const TovuConditionalFollowUp &f :
+             q.conditionalFollowUps.value_or(std::vector<TovuConditionalFollowUp>{})) {
             texts.push_back(f.followUpQuestion);
             addChoices(f.followUpOptions);
         }
@@ -65,7 +62,8 @@ std::vector<std::string> shownTexts(const TovuSurvey &survey)
 } // namespace
 
 class SampleSurvey : public ::testing::TestWithParam<std::filesystem::path>
-{ };
+{
+};
 
 TEST_P(SampleSurvey, DecodesAndConvertsIntoCleanQuestions)
 {
@@ -136,7 +134,7 @@ TEST(Samples, TogetherUseEveryDocumentQuestionType)
 
 TEST(Samples, CustomerSatisfactionFollowUpsAndClosingLink)
 {
-    const Sample sample = loadNamedSample("customer-satisfaction");
+    const Sample sample = loadSample(TovuTestFiles::samplesDir() / "customer-satisfaction.json");
     const TovuSurvey &survey = sample.survey;
     const auto parent = std::find_if(survey.questions.begin(), survey.questions.end(),
                                      [](const TovuQuestion &q) { return q.conditionalFollowUps.has_value(); });
@@ -167,25 +165,4 @@ TEST(Samples, CustomerSatisfactionFollowUpsAndClosingLink)
     EXPECT_EQ(closing.subtitle, std::nullopt);
     ASSERT_TRUE(survey.introPage);
     EXPECT_EQ(survey.introPage->buttonText, "Start survey");
-}
-
-TEST(Samples, OnboardingAndProductFeedbackPages)
-{
-    const TovuSurvey onboarding = loadNamedSample("onboarding").survey;
-    // No thank-you page: the closing question says the default words.
-    EXPECT_EQ(onboarding.thankYouPage, std::nullopt);
-    EXPECT_EQ(onboarding.questions.back().title, "Thank You!");
-    EXPECT_EQ(onboarding.questions.back().subtitle, "Your feedback is greatly appreciated.");
-    // "ranking" is not a type of the library and is asked as single choice.
-    const auto ranking = std::find_if(onboarding.questions.begin(), onboarding.questions.end(),
-                                      [](const TovuQuestion &q) { return q.id == "dd1d4bbb-1381-46f8-ab0c-160cca5500ce"; });
-    ASSERT_NE(ranking, onboarding.questions.end());
-    EXPECT_EQ(ranking->type, TovuQuestionType::singleChoice);
-    EXPECT_EQ(ranking->title, "Which of these matters most to you in a notes app?");
-
-    const TovuSurvey feedback = loadNamedSample("product-feedback").survey;
-    ASSERT_TRUE(feedback.introPage);
-    EXPECT_FALSE(feedback.introPage->enabled);
-    EXPECT_EQ(feedback.questions.back().title, "Thanks for helping us make Notely better!");
-    EXPECT_EQ(feedback.questions.back().redirectURL, std::nullopt);
 }

@@ -9,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -69,17 +68,6 @@ std::vector<std::string> questionIds(const TovuSurvey &survey)
     return ids;
 }
 
-const TovuQuestion &questionById(const TovuSurvey &survey, const std::string &id)
-{
-    static const TovuQuestion missing{.id = "<missing>"};
-    for (const TovuQuestion &q : survey.questions) {
-        if (q.id == id)
-            return q;
-    }
-    ADD_FAILURE() << "no question " << id;
-    return missing;
-}
-
 } // namespace
 
 // --- Question types ----------------------------------------------------------
@@ -89,8 +77,14 @@ struct TypeCase {
     TovuQuestionType expected;
 };
 
+void PrintTo(const TypeCase &c, std::ostream *os)
+{
+    *os << (c.quesType ? '"' + *c.quesType + '"' : std::string("absent"));
+}
+
 class QuestionTypeMapping : public ::testing::TestWithParam<TypeCase>
-{ };
+{
+};
 
 TEST_P(QuestionTypeMapping, MapsDocumentTypesAndFallsBackToSingleChoice)
 {
@@ -115,20 +109,18 @@ TEST_P(QuestionTypeMapping, MapsDocumentTypesAndFallsBackToSingleChoice)
 
 INSTANTIATE_TEST_SUITE_P(
     AllTypes, QuestionTypeMapping,
-    ::testing::Values(TypeCase{"single_choice", TovuQuestionType::singleChoice},
-                      TypeCase{"multi_choice", TovuQuestionType::multipleChoice},
-                      TypeCase{"dropdown", TovuQuestionType::dropdown},
-                      TypeCase{"single_text", TovuQuestionType::singleTextBox},
-                      TypeCase{"multi_text", TovuQuestionType::multipleTextBox}, TypeCase{"nps", TovuQuestionType::nps},
-                      TypeCase{"nps_pro", TovuQuestionType::nps}, TypeCase{"multi_nps", TovuQuestionType::multiNps},
-                      TypeCase{"rating", TovuQuestionType::rating}, TypeCase{"rating_pro", TovuQuestionType::rating},
-                      TypeCase{"multi_rating", TovuQuestionType::multiRating},
-                      // Unknown, differently written or missing types are shown, as single choice.
-                      TypeCase{"ranking", TovuQuestionType::singleChoice},
-                      TypeCase{"NPS", TovuQuestionType::singleChoice},
-                      TypeCase{"MULTI_RATING", TovuQuestionType::singleChoice},
-                      TypeCase{"nps ", TovuQuestionType::singleChoice}, TypeCase{"", TovuQuestionType::singleChoice},
-                      TypeCase{std::nullopt, TovuQuestionType::singleChoice}));
+    ::testing::Values(
+        TypeCase{"single_choice", TovuQuestionType::singleChoice},
+        TypeCase{"multi_choice", TovuQuestionType::multipleChoice}, TypeCase{"dropdown", TovuQuestionType::dropdown},
+        TypeCase{"single_text", TovuQuestionType::singleTextBox},
+        TypeCase{"multi_text", TovuQuestionType::multipleTextBox}, TypeCase{"nps", TovuQuestionType::nps},
+        TypeCase{"nps_pro", TovuQuestionType::nps}, TypeCase{"multi_nps", TovuQuestionType::multiNps},
+        TypeCase{"rating", TovuQuestionType::rating}, TypeCase{"rating_pro", TovuQuestionType::rating},
+        TypeCase{"multi_rating", TovuQuestionType::multiRating},
+        // Unknown, differently written or missing types are shown, as single choice.
+        TypeCase{"ranking", TovuQuestionType::singleChoice}, TypeCase{"NPS", TovuQuestionType::singleChoice},
+        TypeCase{"MULTI_RATING", TovuQuestionType::singleChoice}, TypeCase{"nps ", TovuQuestionType::singleChoice},
+        TypeCase{"", TovuQuestionType::singleChoice}, TypeCase{std::nullopt, TovuQuestionType::singleChoice}));
 
 // --- Question fields ---------------------------------------------------------
 
@@ -140,7 +132,8 @@ TEST(SurveyDocument, QuestionFieldsAreTakenOverCleanedOrUnchanged)
     full["required"] = {{"enabled", true}};
     full["options"] = {{"row", rows({{"r1", "<i>Fast</i> &amp; free "}, {"r2", "Slow"}})},
                        {"col", rows({{"c1", "<b>1</b>"}, {"c2", "&quot;2&quot;"}})}};
-    full["settings"] = {{"rating", {{"type", "stars"}, {"colLabel", true}, {"color", "#FF9500"}, {"position", "left"}}}};
+    full["settings"]
+        = {{"rating", {{"type", "stars"}, {"colLabel", true}, {"color", "#FF9500"}, {"position", "left"}}}};
 
     Json bare = {{"uuid", "q2"}};
     Json emptyParts = question("q3", "dropdown", "Pick");
@@ -172,10 +165,11 @@ TEST(SurveyDocument, QuestionFieldsAreTakenOverCleanedOrUnchanged)
     EXPECT_EQ(survey.questions[0], expectedFull);
     EXPECT_EQ(survey.questions[1], (TovuQuestion{.id = "q2", .type = TovuQuestionType::singleChoice, .title = ""}));
     EXPECT_EQ(survey.questions[2], (TovuQuestion{.id = "q3", .type = TovuQuestionType::dropdown, .title = "Pick"}));
-    EXPECT_EQ(survey.questions[3], (TovuQuestion{.id = "q4",
-                                                 .type = TovuQuestionType::singleTextBox,
-                                                 .title = "Name",
-                                                 .options = Choices{{"r", "Only", "Only"}}}));
+    EXPECT_EQ(survey.questions[3],
+              (TovuQuestion{.id = "q4",
+                            .type = TovuQuestionType::singleTextBox,
+                            .title = "Name",
+                            .options = Choices{{"r", "Only", "Only"}}}));
 }
 
 TEST(SurveyDocument, NpsLabelsFollowTheNpsSettingsOfAnyQuestionType)
@@ -196,7 +190,8 @@ TEST(SurveyDocument, NpsLabelsFollowTheNpsSettingsOfAnyQuestionType)
     ASSERT_EQ(survey.questions.size(), 5u);
     EXPECT_EQ(survey.questions[0].npsLabels, (TovuNPSLabels{.lower = "Not likely", .upper = "Very likely"}));
     // Labels are used as the document gives them.
-    EXPECT_EQ(survey.questions[1].npsLabels, (TovuNPSLabels{"<b>Never</b>", "Always", "#D0021B", "#F8B400", "#27AE60"}));
+    EXPECT_EQ(survey.questions[1].npsLabels,
+              (TovuNPSLabels{"<b>Never</b>", "Always", "#D0021B", "#F8B400", "#27AE60"}));
     EXPECT_EQ(survey.questions[2].npsLabels,
               (TovuNPSLabels{.lower = "Not likely", .upper = "Top", .passiveColor = "#888"}));
     EXPECT_EQ(survey.questions[3].npsLabels, std::nullopt);
@@ -210,20 +205,20 @@ TEST(SurveyDocument, NpsLabelsFollowTheNpsSettingsOfAnyQuestionType)
 TEST(SurveyDocument, NpsProRangesBecomeConditionalFollowUps)
 {
     Json parent = question("nps1", "nps_pro", "Recommend?");
-    parent["settings"] = {{"configScale",
-                           {configScale("c1", 0, 6, true, {"q9"}), configScale("c2", 7, 8, false, {"q10"}),
-                            configScale("c3", 9, 9, std::nullopt, {"q11"}), configScale("c4", 9, 10, true, {}),
-                            configScale("c5", 10, 10, true, {"ghost"}),
-                            configScale("c6", 9, 10, true, {"q12", "q13"})}}};
+    parent["settings"]
+        = {{"configScale",
+            {configScale("c1", 0, 6, true, {"q9"}), configScale("c2", 7, 8, false, {"q10"}),
+             configScale("c3", 9, 9, std::nullopt, {"q11"}), configScale("c4", 9, 10, true, {}),
+             configScale("c5", 10, 10, true, {"ghost"}), configScale("c6", 9, 10, true, {"q12", "q13"})}}};
     Json q9 = question("q9", "single_choice", "<p>Why&nbsp;not?</p>");
     q9["options"] = {{"row", rows({{"o1", "<b>Price</b>"}, {"o2", "Speed &amp; more"}})}};
     Json q12 = {{"uuid", "q12"}, {"options", {{"row", Json::array()}}}};
 
     // The follow-up q9 comes before its parent and in another block.
-    const TovuSurvey survey = convert(document({{q9, question("keep", "dropdown", "Stay")},
-                                                {parent, question("q10", "multi_text", "Disabled range"),
-                                                 question("q11", "single_text", "No flag"), q12,
-                                                 question("q13", "single_text", "Second id")}}));
+    const TovuSurvey survey = convert(
+        document({{q9, question("keep", "dropdown", "Stay")},
+                  {parent, question("q10", "multi_text", "Disabled range"), question("q11", "single_text", "No flag"),
+                   q12, question("q13", "single_text", "Second id")}}));
 
     // Every id any range names leaves the main sequence, used or not.
     EXPECT_EQ(questionIds(survey), (std::vector<std::string>{"keep", "nps1", "thank_you_auto"}));
@@ -241,10 +236,10 @@ TEST(SurveyDocument, NpsProRangesBecomeConditionalFollowUps)
          .questionId = "q12",
          .followUpType = TovuQuestionType::singleChoice},
     };
-    const TovuQuestion &nps = questionById(survey, "nps1");
-    EXPECT_EQ(nps.type, TovuQuestionType::nps);
-    EXPECT_EQ(nps.conditionalFollowUps, expected);
-    EXPECT_EQ(nps.followUpQuestion, std::nullopt);
+    ASSERT_EQ(survey.questions.size(), 3u);
+    EXPECT_EQ(survey.questions[1].type, TovuQuestionType::nps);
+    EXPECT_EQ(survey.questions[1].conditionalFollowUps, expected);
+    EXPECT_EQ(survey.questions[1].followUpQuestion, std::nullopt);
 }
 
 TEST(SurveyDocument, FollowUpsAreOnlyAttachedToNpsPro)
@@ -277,9 +272,10 @@ TEST(SurveyDocument, LaterDuplicateDefinitionIsTheFollowUp)
 {
     Json parent = question("p", "nps_pro", "Score");
     parent["settings"] = {{"configScale", {configScale("c1", 0, 10, true, {"q9"})}}};
-    const TovuSurvey survey = convert(document({{question("q9", "single_text", "Old"), parent},
-                                                {question("dup", "dropdown", "First"), question("q9", "multi_text", "New"),
-                                                 question("dup", "rating", "Second")}}));
+    const TovuSurvey survey
+        = convert(document({{question("q9", "single_text", "Old"), parent},
+                            {question("dup", "dropdown", "First"), question("q9", "multi_text", "New"),
+                             question("dup", "rating", "Second")}}));
     // Both copies of a follow-up leave the sequence; other duplicates are each asked.
     ASSERT_EQ(questionIds(survey), (std::vector<std::string>{"p", "dup", "dup", "thank_you_auto"}));
     EXPECT_EQ(survey.questions[1].title, "First");
@@ -296,14 +292,14 @@ TEST(SurveyDocument, LaterDuplicateDefinitionIsTheFollowUp)
 TEST(SurveyDocument, ClosingQuestionFollowsTheThankYouPage)
 {
     const TovuQuestion closing{.id = "thank_you_auto", .type = TovuQuestionType::thankYou, .isRequired = false};
-    const auto withTitle = [&](std::string title, std::optional<std::string> subtitle,
-                               std::optional<std::string> redirect) {
-        TovuQuestion q = closing;
-        q.title = std::move(title);
-        q.subtitle = std::move(subtitle);
-        q.redirectURL = std::move(redirect);
-        return q;
-    };
+    const auto withTitle
+        = [&](std::string title, std::optional<std::string> subtitle, std::optional<std::string> redirect) {
+              TovuQuestion q = closing;
+              q.title = std::move(title);
+              q.subtitle = std::move(subtitle);
+              q.redirectURL = std::move(redirect);
+              return q;
+          };
     const std::string byDefault = "Your feedback is greatly appreciated.";
     const std::string link = "https://example.com/next";
 
@@ -342,8 +338,8 @@ TEST(SurveyDocument, SurveyFieldsAndIntroPage)
     Json data = document({});
     data["displayTitle"] = "<b>Q3</b> &amp; more ";
     data["projectId"] = "proj-7";
-    data["introPage"] = {{"enabled", true}, {"content", "<p>Welcome&nbsp;to <b>Acme</b></p>"},
-                         {"buttonText", "&nbsp;Go <b>now</b>"}};
+    data["introPage"]
+        = {{"enabled", true}, {"content", "<p>Welcome&nbsp;to <b>Acme</b></p>"}, {"buttonText", "&nbsp;Go <b>now</b>"}};
     const TovuSurvey survey = convert(data);
     EXPECT_EQ(survey.id, "survey-1");
     EXPECT_EQ(survey.name, "<b>Q3</b> &amp; more ");
@@ -369,8 +365,14 @@ struct CleanCase {
     const char *expected;
 };
 
+void PrintTo(const CleanCase &c, std::ostream *os)
+{
+    *os << ::testing::PrintToString(std::string(c.input));
+}
+
 class SurveyTextClean : public ::testing::TestWithParam<CleanCase>
-{ };
+{
+};
 
 TEST_P(SurveyTextClean, RemovesTagsDecodesEntitiesAndTrims)
 {
@@ -400,7 +402,8 @@ INSTANTIATE_TEST_SUITE_P(
                       // Bytes that are not UTF-8 are kept, even when they look like white space.
                       CleanCase{"\xFFHi\xFE", "\xFFHi\xFE"}, CleanCase{" \xC3 ", "\xC3"},
                       CleanCase{"Hi\xE3\x80", "Hi\xE3\x80"}, CleanCase{"\x80 Hi", "\x80 Hi"},
-                      CleanCase{"\xC0\xA0Hi\xC0\xA0", "\xC0\xA0Hi\xC0\xA0"}));
+                      CleanCase{"\xC0\xA0Hi\xC0\xA0", "\xC0\xA0Hi\xC0\xA0"},
+                      CleanCase{"\xE0\x80\xA0Hi", "\xE0\x80\xA0Hi"}));
 
 // --- Document decoding -------------------------------------------------------
 
@@ -412,46 +415,36 @@ TEST(SurveyDocument, DecodingFailuresNameThePath)
     const Json base = document({{scored, question("q1", "single_choice", "A"), question("q2", "dropdown", "B")}});
     ASSERT_TRUE(decodeJson<TovuAPIMainResponse>(Json{{"data", base}}));
 
-    struct Case {
-        const char *name;
-        std::function<void(Json &)> damage;
-        Code code;
-        std::string message;
-    };
-    const std::string question0 = "data.blocks[0].questions[0].question.";
-    const std::vector<Case> cases{
-        {"question without uuid", [](Json &d) { d["blocks"][0]["questions"][2]["question"].erase("uuid"); },
-         Code::keyNotFound, "data.blocks[0].questions[2].question.uuid: required key of TovuAPIQuestionDef is missing"},
-        {"container without question", [](Json &d) { d["blocks"][0]["questions"][1].erase("question"); },
-         Code::keyNotFound, "data.blocks[0].questions[1].question: required key of TovuAPIQuestionContainer is missing"},
-        {"range without scale", [](Json &d) { d["blocks"][0]["questions"][0]["question"]["settings"]["configScale"][0].erase("scale"); },
-         Code::keyNotFound, question0 + "settings.configScale[0].scale: required key of TovuAPIConfigScale is missing"},
-        {"fractional scale",
-         [](Json &d) { d["blocks"][0]["questions"][0]["question"]["settings"]["configScale"][0]["scale"]["max"] = 6.5; },
-         Code::typeMismatch, question0 + "settings.configScale[0].scale.max: expected integer, found 6.5"},
-        {"qId as text", [](Json &d) { d["blocks"][0]["questions"][0]["question"]["settings"]["configScale"][0]["qId"] = "q1"; },
-         Code::typeMismatch, question0 + "settings.configScale[0].qId: expected array, found string"},
-        {"options without row", [](Json &d) { d["blocks"][0]["questions"][0]["question"]["options"].erase("row"); },
-         Code::keyNotFound, question0 + "options.row: required key of TovuAPIOptions is missing"},
-        {"row text missing", [](Json &d) { d["blocks"][0]["questions"][0]["question"]["options"]["row"][0].erase("text"); },
-         Code::keyNotFound, question0 + "options.row[0].text: required key of TovuAPIRowCol is missing"},
-        {"required as text", [](Json &d) { d["blocks"][0]["questions"][0]["question"]["required"] = {{"enabled", "yes"}}; },
-         Code::typeMismatch, question0 + "required.enabled: expected boolean, found string"},
-        {"quesType as number", [](Json &d) { d["blocks"][0]["questions"][0]["question"]["quesType"] = 5; },
-         Code::typeMismatch, question0 + "quesType: expected string, found integer"},
-        {"intro without flag", [](Json &d) { d["introPage"] = {{"content", "Hi"}}; }, Code::keyNotFound,
-         "data.introPage.enabled: required key of TovuAPIIntroPage is missing"},
-        {"blocks missing", [](Json &d) { d.erase("blocks"); }, Code::keyNotFound,
-         "data.blocks: required key of TovuAPISurveyData is missing"},
-        {"null uuid",
-         [](Json &d) { d["blocks"][0]["questions"][1]["question"]["uuid"] = nullptr; }, Code::valueNotFound,
+    const std::string q0 = "data.blocks[0].questions[0].question.";
+    const std::vector<Damage> damages{
+        {"/blocks/0/questions/2/question/uuid", std::nullopt, Code::keyNotFound,
+         "data.blocks[0].questions[2].question.uuid: required key of TovuAPIQuestionDef is missing"},
+        {"/blocks/0/questions/1/question/uuid", Json(nullptr), Code::valueNotFound,
          "data.blocks[0].questions[1].question.uuid: required value of TovuAPIQuestionDef is null"},
+        {"/blocks/0/questions/1/question", std::nullopt, Code::keyNotFound,
+         "data.blocks[0].questions[1].question: required key of TovuAPIQuestionContainer is missing"},
+        {"/blocks/0/questions/0/question/settings/configScale/0/scale", std::nullopt, Code::keyNotFound,
+         q0 + "settings.configScale[0].scale: required key of TovuAPIConfigScale is missing"},
+        {"/blocks/0/questions/0/question/settings/configScale/0/scale/max", 6.5, Code::typeMismatch,
+         q0 + "settings.configScale[0].scale.max: expected integer, found 6.5"},
+        {"/blocks/0/questions/0/question/settings/configScale/0/qId", "q1", Code::typeMismatch,
+         q0 + "settings.configScale[0].qId: expected array, found string"},
+        {"/blocks/0/questions/0/question/options/row", std::nullopt, Code::keyNotFound,
+         q0 + "options.row: required key of TovuAPIOptions is missing"},
+        {"/blocks/0/questions/0/question/options/row/0/text", std::nullopt, Code::keyNotFound,
+         q0 + "options.row[0].text: required key of TovuAPIRowCol is missing"},
+        {"/blocks/0/questions/0/question/required", Json{{"enabled", "yes"}}, Code::typeMismatch,
+         q0 + "required.enabled: expected boolean, found string"},
+        {"/blocks/0/questions/0/question/quesType", 5, Code::typeMismatch,
+         q0 + "quesType: expected string, found integer"},
+        {"/introPage", Json{{"content", "Hi"}}, Code::keyNotFound,
+         "data.introPage.enabled: required key of TovuAPIIntroPage is missing"},
+        {"/blocks", std::nullopt, Code::keyNotFound, "data.blocks: required key of TovuAPISurveyData is missing"},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        Json damaged = base;
-        c.damage(damaged);
-        EXPECT_TRUE(failsWith(decodeJson<TovuAPIMainResponse>(Json{{"data", damaged}}), c.code, c.message));
+    for (const Damage &d : damages) {
+        SCOPED_TRACE(d.pointer);
+        const Json damaged = changed(base, d.pointer, d.value);
+        EXPECT_TRUE(failsWith(decodeJson<TovuAPIMainResponse>(Json{{"data", damaged}}), d.code, d.message));
     }
     EXPECT_TRUE(failsWith(tovuDecode<TovuAPIMainResponse>("{}"), Code::keyNotFound,
                           "data: required key of TovuAPIMainResponse is missing"));

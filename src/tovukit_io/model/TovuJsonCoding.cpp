@@ -51,7 +51,7 @@ void checkNesting(std::string_view text)
 
 // nlohmann's messages start with "[json.exception.parse_error.101] "; survey
 // authors need only the part after it.
-std::string parseErrorReason(const nlohmann::json::parse_error &error)
+std::string parseErrorReason(const nlohmann::json::exception &error)
 {
     std::string_view what = error.what();
     if (const auto close = what.find("] "); what.starts_with("[json.exception.") && close != what.npos)
@@ -123,7 +123,8 @@ Json parse(std::string_view text)
     checkNesting(text);
     try {
         return Json::parse(text);
-    } catch (const nlohmann::json::parse_error &error) {
+    } catch (const nlohmann::json::exception &error) {
+        // Syntax errors, and numbers beyond the range of a double.
         throw TovuCodingError(Code::invalidJson, parseErrorReason(error));
     }
 }
@@ -169,7 +170,8 @@ void decodeValue(const Json &value, std::int64_t &out)
         // 3.0 or 1e3 is a whole number written another way; 2.5 is not an integer.
         const double number = value.get<double>();
         constexpr double limit = 9223372036854775808.0; // 2^63
-        if (std::trunc(number) != number || number < -limit || number >= limit)
+        // -2^63 itself is refused too: a literal below it rounds to exactly that double.
+        if (std::trunc(number) != number || number <= -limit || number >= limit)
             throw TovuCodingError(Code::typeMismatch, "expected integer, found " + value.dump());
         out = static_cast<std::int64_t>(number);
         return;

@@ -82,25 +82,28 @@ bool isSpace(char32_t c)
     }
 }
 
-// The code point starting at `text[index]`, and its length; malformed bytes
-// count as one non-space unit so they are kept as they are.
+// The code point starting at `text[index]`, and its length. Malformed, overlong
+// and surrogate sequences count as one non-space unit, so they are kept as they
+// are rather than read as a space in disguise.
 std::pair<char32_t, std::size_t> codePointAt(std::string_view text, std::size_t index)
 {
+    constexpr std::pair<char32_t, std::size_t> invalid{0xFFFD, 1};
     const auto lead = static_cast<std::uint8_t>(text[index]);
-    const std::size_t length = lead < 0x80 ? 1
-        : (lead >> 5) == 0x6               ? 2
-        : (lead >> 4) == 0xE               ? 3
-        : (lead >> 3) == 0x1E              ? 4
-                                           : 0;
+    if (lead < 0x80)
+        return {lead, 1};
+    const std::size_t length = (lead >> 5) == 0x6 ? 2 : (lead >> 4) == 0xE ? 3 : (lead >> 3) == 0x1E ? 4 : 0;
     if (length == 0 || index + length > text.size())
-        return {0xFFFD, 1};
-    char32_t value = length == 1 ? lead : lead & (0x7F >> length);
+        return invalid;
+    char32_t value = lead & (0x7Fu >> length);
     for (std::size_t i = 1; i < length; ++i) {
         const auto next = static_cast<std::uint8_t>(text[index + i]);
         if ((next & 0xC0) != 0x80)
-            return {0xFFFD, 1};
-        value = (value << 6) | (next & 0x3F);
+            return invalid;
+        value = (value << 6) | (next & 0x3Fu);
     }
+    constexpr std::array<char32_t, 5> smallestForLength{0, 0, 0x80, 0x800, 0x10000};
+    if (value < smallestForLength[length] || value > 0x10FFFF || (value >= 0xD800 && value <= 0xDFFF))
+        return invalid;
     return {value, length};
 }
 
