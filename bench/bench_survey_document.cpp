@@ -21,6 +21,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -37,7 +38,8 @@ public:
         const std::uint64_t high = step();
         const std::uint64_t low = step();
         std::snprintf(text.data(), text.size(), "%08llx-%04llx-4%03llx-a%03llx-%012llx",
-                      static_cast<unsigned long long>(high >> 32), static_cast<unsigned long long>((high >> 16) & 0xFFFF),
+                      static_cast<unsigned long long>(high >> 32),
+                      static_cast<unsigned long long>((high >> 16) & 0xFFFF),
                       static_cast<unsigned long long>(high & 0xFFF), static_cast<unsigned long long>(low >> 52),
                       static_cast<unsigned long long>(low & 0xFFFFFFFFFFFF));
         return text.data();
@@ -84,8 +86,9 @@ Json questionDef(Uuids &uuids, std::string uuid, std::string_view type, std::siz
 {
     Json question{
         {"uuid", std::move(uuid)},
-        {"title", "<p>Question " + std::to_string(index + 1) + ": how would you rate <b>Acme&nbsp;Store</b>&#39;s "
-                      + std::string(type) + " experience?</p>"},
+        {"title",
+         "<p>Question " + std::to_string(index + 1) + ": how would you rate <b>Acme&nbsp;Store</b>&#39;s "
+             + std::string(type) + " experience?</p>"},
         {"quesType", type},
     };
     if (index % 3 == 0)
@@ -96,20 +99,21 @@ Json questionDef(Uuids &uuids, std::string uuid, std::string_view type, std::siz
     } else if (type == "single_text" || type == "multi_text") {
         question["placeholder"] = {{"text", "Type your answer here"}};
     } else if (type == "rating" || type == "rating_pro" || type == "multi_rating") {
-        question["options"] = {{"row", rows(uuids, type == "multi_rating" ? 4 : 1, index)},
-                               {"col", scaleColumns(uuids, 1, 5)}};
+        question["options"]
+            = {{"row", rows(uuids, type == "multi_rating" ? 4 : 1, index)}, {"col", scaleColumns(uuids, 1, 5)}};
         question["settings"] = {{"rating",
                                  {{"type", index % 2 == 0 ? "stars" : "emoji"},
                                   {"colLabel", true},
                                   {"color", "#F5A623"},
                                   {"position", "center"}}}};
     } else { // nps, nps_pro, multi_nps
-        question["options"] = {{"row", rows(uuids, type == "multi_nps" ? 3 : 1, index)},
-                               {"col", scaleColumns(uuids, 0, 10)}};
-        question["settings"] = {{"nps",
-                                 {{"colors", {{"detractor", "#E74C3C"}, {"passive", "#F1C40F"}, {"promoter", "#2ECC71"}}},
-                                  {"leftLabel", "Not at all likely"},
-                                  {"rightLabel", "Extremely likely"}}}};
+        question["options"]
+            = {{"row", rows(uuids, type == "multi_nps" ? 3 : 1, index)}, {"col", scaleColumns(uuids, 0, 10)}};
+        question["settings"]
+            = {{"nps",
+                {{"colors", {{"detractor", "#E74C3C"}, {"passive", "#F1C40F"}, {"promoter", "#2ECC71"}}},
+                 {"leftLabel", "Not at all likely"},
+                 {"rightLabel", "Extremely likely"}}}};
     }
     return question;
 }
@@ -133,7 +137,10 @@ std::string surveyDocument(std::size_t questionCount)
             Json nps = questionDef(uuids, uuids.next(), "nps_pro", index);
             nps["settings"]["configScale"] = Json::array({
                 {{"uuid", uuids.next()}, {"scale", {{"min", 0}, {"max", 6}}}, {"enabled", true}, {"qId", {lowId}}},
-                {{"uuid", uuids.next()}, {"scale", {{"min", 7}, {"max", 8}}}, {"enabled", false}, {"qId", Json::array()}},
+                {{"uuid", uuids.next()},
+                 {"scale", {{"min", 7}, {"max", 8}}},
+                 {"enabled", false},
+                 {"qId", Json::array()}},
                 {{"uuid", uuids.next()}, {"scale", {{"min", 9}, {"max", 10}}}, {"enabled", true}, {"qId", {highId}}},
             });
             questions.push_back(std::move(nps));
@@ -198,8 +205,9 @@ std::vector<TovuQueuedResponse> queuedResponses(std::size_t count)
             std::string questionId = uuids.next();
             response.answers.push_back(TovuAnswer{
                 .questionId = questionId,
-                .value = {TovuAnswerValue{.rowId = uuids.next(), .colId = uuids.next(), .text = "Satisfied"},
-                          TovuAnswerValue{.rowId = uuids.next(), .text = "Free text answer number " + std::to_string(q)}},
+                .value
+                = {TovuAnswerValue{.rowId = uuids.next(), .colId = uuids.next(), .text = "Satisfied"},
+                   TovuAnswerValue{.rowId = uuids.next(), .text = "Free text answer number " + std::to_string(q)}},
             });
             flags.data.timePerQues[questionId] = {.timeOnQues = 2.5 + static_cast<double>(q)};
             if (q % 3 == 0)
@@ -273,12 +281,32 @@ void BM_Decode(benchmark::State &state)
 void BM_DecodeAndConvert(benchmark::State &state)
 {
     const std::string &document = documentFor(state);
+    std::size_t questionCount = 0;
     for (auto _ : state) {
         TovuResult<TovuAPIMainResponse> decoded = tovuDecode<TovuAPIMainResponse>(document);
         if (!decoded) {
             state.SkipWithError(decoded.error().localizedDescription().c_str());
             break;
         }
+        TovuSurvey survey = decoded->data.toNativeSurvey();
+        questionCount = survey.questions.size();
+        benchmark::DoNotOptimize(survey);
+    }
+    setBytes(state, document.size());
+    // Follow-ups leave the main sequence and the closing page joins it.
+    state.counters["questions"] = static_cast<double>(questionCount);
+}
+
+// The conversion alone, from an already decoded document.
+void BM_Convert(benchmark::State &state)
+{
+    const std::string &document = documentFor(state);
+    const TovuResult<TovuAPIMainResponse> decoded = tovuDecode<TovuAPIMainResponse>(document);
+    if (!decoded) {
+        state.SkipWithError(decoded.error().localizedDescription().c_str());
+        return;
+    }
+    for (auto _ : state) {
         TovuSurvey survey = decoded->data.toNativeSurvey();
         benchmark::DoNotOptimize(survey);
     }
@@ -288,6 +316,7 @@ void BM_DecodeAndConvert(benchmark::State &state)
 BENCHMARK(BM_BareParse)->Arg(10)->Arg(100)->Arg(1000);
 BENCHMARK(BM_BareParseOrdered)->Arg(10)->Arg(100)->Arg(1000);
 BENCHMARK(BM_Decode)->Arg(10)->Arg(100)->Arg(1000);
+BENCHMARK(BM_Convert)->Arg(10)->Arg(100)->Arg(1000);
 BENCHMARK(BM_DecodeAndConvert)->Arg(10)->Arg(100)->Arg(1000);
 
 constexpr std::size_t queueLength = 100;

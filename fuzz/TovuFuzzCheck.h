@@ -5,9 +5,11 @@
 // the current input.
 
 #include <tovukit_io/model/TovuDecode.h>
+#include <tovukit_io/model/TovuDecodePaths.h>
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -42,4 +44,21 @@ std::string tovuFuzzCheckRoundTrip(const T &value)
     if (!again || *again != *encoded)
         tovuFuzzFail("encoding is not stable", *encoded + "\n" + again.value_or("(failed)"));
     return std::move(*encoded);
+}
+
+/// Decodes through both paths behind tovuDecode, the streaming one and the
+/// tree one, and requires the same verdict and the same value from each.
+template<class T>
+TovuResult<T> tovuFuzzDecodeBothWays(std::string_view text)
+{
+    const std::optional<T> streamed = tovu::json::decodeStreaming<T>(text);
+    TovuResult<T> tree = tovu::json::decodeThroughTree<T>(text);
+    if (streamed.has_value() != tree.has_value()) {
+        tovuFuzzFail(streamed ? "only the streaming decoder accepts the input"
+                              : "only the tree decoder accepts the input",
+                     tree ? std::string_view() : std::string_view(tree.error().localizedDescription()));
+    }
+    if (streamed && !(*streamed == *tree))
+        tovuFuzzFail("the two decoders give different values");
+    return tree;
 }

@@ -15,7 +15,8 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char *>(data), size);
-    const TovuResult<std::vector<TovuQueuedResponse>> queue = tovuDecode<std::vector<TovuQueuedResponse>>(text);
+    const TovuResult<std::vector<TovuQueuedResponse>> queue
+        = tovuFuzzDecodeBothWays<std::vector<TovuQueuedResponse>>(text);
     if (queue)
         tovuFuzzCheckRoundTrip(*queue);
     return 0;

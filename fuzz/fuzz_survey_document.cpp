@@ -15,7 +15,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char *>(data), size);
-    const TovuResult<TovuAPIMainResponse> document = tovuDecode<TovuAPIMainResponse>(text);
+    const TovuResult<TovuAPIMainResponse> document = tovuFuzzDecodeBothWays<TovuAPIMainResponse>(text);
     if (!document)
         return 0;
 
@@ -33,7 +33,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         tovuFuzzFail("a decoded document does not encode", rewritten.error().localizedDescription());
     const TovuResult<TovuAPIMainResponse> reread = tovuDecode<TovuAPIMainResponse>(*rewritten);
     if (!reread)
-        tovuFuzzFail("a re-encoded document does not decode", reread.error().localizedDescription() + "\n" + *rewritten);
+        tovuFuzzFail("a re-encoded document does not decode",
+                     reread.error().localizedDescription() + "\n" + *rewritten);
     if (!(reread->data.toNativeSurvey() == survey))
         tovuFuzzFail("a re-encoded document converts to another survey", *rewritten);
     return 0;

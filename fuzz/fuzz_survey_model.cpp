@@ -13,7 +13,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char *>(data), size);
-    const TovuResult<TovuSurvey> survey = tovuDecode<TovuSurvey>(text);
+    const TovuResult<TovuSurvey> survey = tovuFuzzDecodeBothWays<TovuSurvey>(text);
     if (survey)
         tovuFuzzCheckRoundTrip(*survey);
     return 0;

@@ -113,13 +113,18 @@ void requireObject(const Json &value, std::string_view record)
         throwMismatch(std::string(record) + " object", value);
 }
 
-Json parse(std::string_view text)
+void checkDocumentSize(std::string_view text)
 {
     if (text.size() > maxDocumentBytes) {
         throw TovuCodingError(Code::limitExceeded,
                               "document is " + std::to_string(text.size()) + " bytes, more than the limit of "
                                   + std::to_string(maxDocumentBytes) + " bytes");
     }
+}
+
+Json parse(std::string_view text)
+{
+    checkDocumentSize(text);
     checkNesting(text);
     try {
         return Json::parse(text);
@@ -127,6 +132,80 @@ Json parse(std::string_view text)
         // Syntax errors, and numbers beyond the range of a double.
         throw TovuCodingError(Code::invalidJson, parseErrorReason(error));
     }
+}
+
+void throwMismatch(std::string_view expected, TovuJsonReader &reader)
+{
+    const std::string_view found = reader.peekKindName();
+    throw TovuCodingError(found == "null" ? Code::valueNotFound : Code::typeMismatch,
+                          "expected " + std::string(expected) + ", found " + std::string(found));
+}
+
+std::int64_t integerFromDouble(double number, std::string_view written)
+{
+    // 3.0 or 1e3 is a whole number written another way; 2.5 is not an integer.
+    // -2^63 itself is refused too: a literal below it rounds to exactly that double.
+    constexpr double limit = 9223372036854775808.0; // 2^63
+    if (std::trunc(number) != number || number <= -limit || number >= limit)
+        throw TovuCodingError(Code::typeMismatch, "expected integer, found " + std::string(written));
+    return static_cast<std::int64_t>(number);
+}
+
+float floatFromDouble(double number, std::string_view written)
+{
+    // Numbers that round to the largest float are fine (it is what encoding
+    // writes for it); only those that would round to infinity are not.
+    constexpr double roundsToInfinity = 0x1.ffffffp127;
+    constexpr auto largest = std::numeric_limits<float>::max();
+    const double magnitude = std::abs(number);
+    if (magnitude >= roundsToInfinity)
+        throw TovuCodingError(Code::typeMismatch, "number " + std::string(written) + " does not fit in a 32-bit float");
+    if (magnitude > static_cast<double>(largest))
+        return number < 0 ? -largest : largest;
+    return static_cast<float>(number);
+}
+
+void readValue(TovuJsonReader &reader, std::string &out)
+{
+    if (reader.peek() != TovuJsonReader::Kind::string)
+        throwMismatch("string", reader);
+    reader.readString(out);
+}
+
+void readValue(TovuJsonReader &reader, bool &out)
+{
+    if (reader.peek() != TovuJsonReader::Kind::boolean)
+        throwMismatch("boolean", reader);
+    out = reader.readBool();
+}
+
+void readValue(TovuJsonReader &reader, std::int64_t &out)
+{
+    if (reader.peek() != TovuJsonReader::Kind::number)
+        throwMismatch("integer", reader);
+    const TovuJsonReader::Number number = reader.readNumber();
+    if (!number.isInteger) {
+        out = integerFromDouble(TovuJsonReader::toDouble(number.text), number.text);
+        return;
+    }
+    const auto result = std::from_chars(number.text.data(), number.text.data() + number.text.size(), out);
+    if (result.ec != std::errc())
+        throw TovuCodingError(Code::typeMismatch, "integer " + std::string(number.text) + " does not fit in 64 bits");
+}
+
+void readValue(TovuJsonReader &reader, double &out)
+{
+    if (reader.peek() != TovuJsonReader::Kind::number)
+        throwMismatch("number", reader);
+    out = TovuJsonReader::toDouble(reader.readNumber().text);
+}
+
+void readValue(TovuJsonReader &reader, float &out)
+{
+    if (reader.peek() != TovuJsonReader::Kind::number)
+        throwMismatch("number", reader);
+    const std::string_view text = reader.readNumber().text;
+    out = floatFromDouble(TovuJsonReader::toDouble(text), text);
 }
 
 std::string_view enumTypeName(TovuQuestionType)
@@ -166,16 +245,9 @@ void decodeValue(const Json &value, std::int64_t &out)
         out = static_cast<std::int64_t>(unsignedValue);
         return;
     }
-    case Json::value_t::number_float: {
-        // 3.0 or 1e3 is a whole number written another way; 2.5 is not an integer.
-        const double number = value.get<double>();
-        constexpr double limit = 9223372036854775808.0; // 2^63
-        // -2^63 itself is refused too: a literal below it rounds to exactly that double.
-        if (std::trunc(number) != number || number <= -limit || number >= limit)
-            throw TovuCodingError(Code::typeMismatch, "expected integer, found " + value.dump());
-        out = static_cast<std::int64_t>(number);
+    case Json::value_t::number_float:
+        out = integerFromDouble(value.get<double>(), value.dump());
         return;
-    }
     default:
         throwMismatch("integer", value);
     }
@@ -192,9 +264,7 @@ void decodeValue(const Json &value, float &out)
 {
     double number = 0;
     decodeValue(value, number);
-    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
-        throw TovuCodingError(Code::typeMismatch, "number " + value.dump() + " does not fit in a 32-bit float");
-    out = static_cast<float>(number);
+    out = floatFromDouble(number, value.dump());
 }
 
 void encodeValue(Json &slot, const std::string &value)

@@ -129,3 +129,11 @@ void from_json(const nlohmann::ordered_json &json, TovuThemeMode &value)
 {
     tovu::json::decodeValue(json, value);
 }
+
+TOVU_INSTANTIATE_CODING(TovuChoice)
+TOVU_INSTANTIATE_CODING(TovuNPSLabels)
+TOVU_INSTANTIATE_CODING(TovuConditionalFollowUp)
+TOVU_INSTANTIATE_CODING(TovuQuestion)
+TOVU_INSTANTIATE_CODING(TovuSurveyPage)
+TOVU_INSTANTIATE_CODING(TovuTheme)
+TOVU_INSTANTIATE_CODING(TovuSurvey)
