@@ -46,18 +46,18 @@ std::string tovuFuzzCheckRoundTrip(const T &value)
     return std::move(*encoded);
 }
 
-/// Decodes through both paths behind tovuDecode, the streaming one and the
-/// tree one, and requires the same verdict and the same value from each.
+/// Decodes through both paths behind tovuDecode and requires that whatever the
+/// streaming decoder accepts, the tree decoder accepts too, with the same value.
+/// (The other way round is allowed: a document the streaming decoder gives up
+/// on, such as one with a repeated key whose first value is wrong, is decoded
+/// through the tree, which has the final say.)
 template<class T>
 TovuResult<T> tovuFuzzDecodeBothWays(std::string_view text)
 {
     const std::optional<T> streamed = tovu::json::decodeStreaming<T>(text);
     TovuResult<T> tree = tovu::json::decodeThroughTree<T>(text);
-    if (streamed.has_value() != tree.has_value()) {
-        tovuFuzzFail(streamed ? "only the streaming decoder accepts the input"
-                              : "only the tree decoder accepts the input",
-                     tree ? std::string_view() : std::string_view(tree.error().localizedDescription()));
-    }
+    if (streamed && !tree)
+        tovuFuzzFail("only the streaming decoder accepts the input", tree.error().localizedDescription());
     if (streamed && !(*streamed == *tree))
         tovuFuzzFail("the two decoders give different values");
     return tree;

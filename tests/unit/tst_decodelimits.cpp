@@ -48,6 +48,9 @@ TEST(DecodeLimits, MalformedJsonIsReportedNotThrown)
         "\xFF\xFE{}",
         R"({"id":"s\q"})",
         R"({"questions":[1 2]})",
+        // A NUL byte ends nothing: text after it is still part of the document.
+        std::string("{\"id\":\"s\",\"name\":\"n\",\"questions\":[]}\0x", 38),
+        std::string("{\"id\":\"s\0\",\"name\":\"n\",\"questions\":[]}", 37),
     };
     for (const std::string &document : documents) {
         SCOPED_TRACE(testing::PrintToString(document));

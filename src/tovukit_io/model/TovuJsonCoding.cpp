@@ -12,8 +12,9 @@ namespace {
 using Code = TovuCodingError::Code;
 
 // One pass over the bytes, outside strings, so hostile nesting is refused
-// before the parser or any decoder sees it.
-void checkNesting(std::string_view text)
+// before the parser or any decoder sees it. nlohmann takes a NUL byte for the
+// end of the input and would accept whatever follows it; JSON has no such rule.
+void checkStructure(std::string_view text)
 {
     int depth = 0;
     bool inString = false;
@@ -29,6 +30,8 @@ void checkNesting(std::string_view text)
             continue;
         }
         switch (c) {
+        case '\0':
+            throw TovuCodingError(Code::invalidJson, "invalid JSON: NUL byte outside a string");
         case '"':
             inString = true;
             break;
@@ -125,7 +128,7 @@ void checkDocumentSize(std::string_view text)
 Json parse(std::string_view text)
 {
     checkDocumentSize(text);
-    checkNesting(text);
+    checkStructure(text);
     try {
         return Json::parse(text);
     } catch (const nlohmann::json::exception &error) {

@@ -44,8 +44,7 @@ void appendUtf8(std::string &out, char32_t codePoint)
 TovuJsonReader::TovuJsonReader(std::string_view text, int maxNestingDepth)
     : m_text(text)
     , m_maxDepth(maxNestingDepth)
-{
-}
+{ }
 
 void TovuJsonReader::failSyntax(std::string_view reason) const
 {
@@ -298,7 +297,9 @@ void TovuJsonReader::readString(std::string &out)
 std::size_t TovuJsonReader::scanNumber(bool &isInteger)
 {
     std::size_t p = m_position;
-    const auto at = [this](std::size_t i) { return i < m_text.size() ? m_text[i] : '\0'; };
+    const auto at = [this](std::size_t i) {
+        return i < m_text.size() ? m_text[i] : '\0';
+    };
     const auto digits = [&](std::string_view what) {
         if (!isDigit(at(p))) {
             m_position = p;
