@@ -352,8 +352,10 @@ TovuJsonReader::Number TovuJsonReader::readNumber()
     return number;
 }
 
-void TovuJsonReader::enterContainer()
+void TovuJsonReader::beginContainer(char open, std::string_view what)
 {
+    if (peekChar() != open)
+        failSyntax("expected " + std::string(what));
     if (++m_depth > m_maxDepth) {
         throw TovuCodingError(TovuCodingError::Code::limitExceeded,
                               "document is nested deeper than " + std::to_string(m_maxDepth) + " levels");
@@ -362,31 +364,34 @@ void TovuJsonReader::enterContainer()
     m_firstInContainer = true;
 }
 
-void TovuJsonReader::beginObject()
+bool TovuJsonReader::nextInContainer(char close)
 {
-    if (peekChar() != '{')
-        failSyntax("expected an object");
-    enterContainer();
-}
-
-void TovuJsonReader::beginArray()
-{
-    if (peekChar() != '[')
-        failSyntax("expected an array");
-    enterContainer();
-}
-
-bool TovuJsonReader::nextKey(std::string_view &key)
-{
-    if (peekChar() == '}') {
+    if (peekChar() == close) {
         ++m_position;
         --m_depth;
         m_firstInContainer = false;
         return false;
     }
     if (!m_firstInContainer)
-        expect(',', "',' or '}'");
+        expect(',', close == '}' ? "',' or '}'" : "',' or ']'");
     m_firstInContainer = false;
+    return true;
+}
+
+void TovuJsonReader::beginObject()
+{
+    beginContainer('{', "an object");
+}
+
+void TovuJsonReader::beginArray()
+{
+    beginContainer('[', "an array");
+}
+
+bool TovuJsonReader::nextKey(std::string_view &key)
+{
+    if (!nextInContainer('}'))
+        return false;
     if (peekChar() != '"')
         failSyntax("expected a key in quotes, found " + describe(m_text[m_position]));
     key = scanString(m_keyBuffer);
@@ -396,16 +401,7 @@ bool TovuJsonReader::nextKey(std::string_view &key)
 
 bool TovuJsonReader::nextElement()
 {
-    if (peekChar() == ']') {
-        ++m_position;
-        --m_depth;
-        m_firstInContainer = false;
-        return false;
-    }
-    if (!m_firstInContainer)
-        expect(',', "',' or ']'");
-    m_firstInContainer = false;
-    return true;
+    return nextInContainer(']');
 }
 
 void TovuJsonReader::skipValue()

@@ -66,7 +66,8 @@ private:
     char peekChar();
     void expect(char c, std::string_view what);
     void expectLiteral(std::string_view literal);
-    void enterContainer();
+    void beginContainer(char open, std::string_view what);
+    bool nextInContainer(char close);
     std::string_view scanString(std::string &buffer);
     void appendEscape(std::string &out);
     void appendCodeUnitEscape(std::string &out);
