@@ -18,5 +18,10 @@
 #include <tovukit_io/model/TovuThemeMode.h>
 #include <tovukit_io/model/TovuUserData.h>
 
+#include <tovukit_io/network/CollectorInfo.h>
 #include <tovukit_io/network/TovuAPISurveyData.h>
 #include <tovukit_io/network/TovuAPISurveyDataJson.h>
+#include <tovukit_io/network/TovuEnvironment.h>
+#include <tovukit_io/network/TovuFeedbackRequest.h>
+#include <tovukit_io/network/TovuFeedbackRequestJson.h>
+#include <tovukit_io/network/TovuNetworkService.h>

@@ -15,5 +15,9 @@ int main()
     }
     const TovuSurvey survey = document->data.toNativeSurvey();
     TovuLog::print("consumer: " + survey.questions.back().title);
+
+    TovuNetworkService service;
+    service.configure("key", "eu", TovuEnvironment::uat);
+    TovuLog::print("consumer: " + service.apiBaseURL());
     return 0;
 }

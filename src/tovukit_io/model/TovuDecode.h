@@ -27,3 +27,9 @@ TovuResult<T> tovuDecode(std::string_view json);
 /// non-finite number, so a stored document always decodes again.
 template<class T>
 TovuResult<std::string> tovuEncode(const T &value);
+
+/// Declares that tovuDecode and tovuEncode for a type are compiled once, in
+/// the library, so no other translation unit instantiates them.
+#define TOVU_DECLARE_CODING(...)                                                       \
+    extern template TovuResult<__VA_ARGS__> tovuDecode<__VA_ARGS__>(std::string_view); \
+    extern template TovuResult<std::string> tovuEncode<__VA_ARGS__>(const __VA_ARGS__ &);

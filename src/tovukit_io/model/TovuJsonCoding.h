@@ -479,14 +479,14 @@ void readValue(TovuJsonReader &reader, Record &out)
 } // namespace tovu::json
 
 /// Defines the nlohmann coding pair of a record from its RecordFields table.
-#define TOVU_DEFINE_JSON_CODING(Record)                               \
-    void to_json(nlohmann::ordered_json &json, const Record &value)   \
-    {                                                                 \
-        tovu::json::encodeRecord(json, value);                        \
-    }                                                                 \
-    void from_json(const nlohmann::ordered_json &json, Record &value) \
-    {                                                                 \
-        tovu::json::decodeRecord(json, value);                        \
+#define TOVU_DEFINE_JSON_CODING(Record)                                                \
+    [[maybe_unused]] void to_json(nlohmann::ordered_json &json, const Record &value)   \
+    {                                                                                  \
+        tovu::json::encodeRecord(json, value);                                         \
+    }                                                                                  \
+    [[maybe_unused]] void from_json(const nlohmann::ordered_json &json, Record &value) \
+    {                                                                                  \
+        tovu::json::decodeRecord(json, value);                                         \
     }
 
 namespace tovu::json {

@@ -10,6 +10,8 @@
 #include <tovukit_io/model/TovuQualityFlags.h>
 #include <tovukit_io/model/TovuQueuedResponse.h>
 
+#include <tovukit_io/model/TovuDecode.h>
+
 #include <nlohmann/json_fwd.hpp>
 
 void to_json(nlohmann::ordered_json &json, const TovuAnswerValue &value);
@@ -32,3 +34,11 @@ void to_json(nlohmann::ordered_json &json, const TovuGeolocation &value);
 void from_json(const nlohmann::ordered_json &json, TovuGeolocation &value);
 void to_json(nlohmann::ordered_json &json, const TovuQueuedResponse &value);
 void from_json(const nlohmann::ordered_json &json, TovuQueuedResponse &value);
+
+TOVU_DECLARE_CODING(TovuAnswerValue)
+TOVU_DECLARE_CODING(TovuAnswer)
+TOVU_DECLARE_CODING(TovuQualityFlags)
+TOVU_DECLARE_CODING(TovuDeviceInfo)
+TOVU_DECLARE_CODING(TovuGeolocation)
+TOVU_DECLARE_CODING(TovuQueuedResponse)
+TOVU_DECLARE_CODING(std::vector<TovuQueuedResponse>)

@@ -9,6 +9,8 @@
 
 #include <tovukit_io/model/TovuSurvey.h>
 
+#include <tovukit_io/model/TovuDecode.h>
+
 #include <nlohmann/json_fwd.hpp>
 
 void to_json(nlohmann::ordered_json &json, TovuQuestionType value);
@@ -30,3 +32,11 @@ void to_json(nlohmann::ordered_json &json, const TovuTheme &value);
 void from_json(const nlohmann::ordered_json &json, TovuTheme &value);
 void to_json(nlohmann::ordered_json &json, const TovuSurvey &value);
 void from_json(const nlohmann::ordered_json &json, TovuSurvey &value);
+
+TOVU_DECLARE_CODING(TovuChoice)
+TOVU_DECLARE_CODING(TovuNPSLabels)
+TOVU_DECLARE_CODING(TovuConditionalFollowUp)
+TOVU_DECLARE_CODING(TovuQuestion)
+TOVU_DECLARE_CODING(TovuSurveyPage)
+TOVU_DECLARE_CODING(TovuTheme)
+TOVU_DECLARE_CODING(TovuSurvey)

@@ -9,6 +9,8 @@
 
 #include <tovukit_io/network/TovuAPISurveyData.h>
 
+#include <tovukit_io/model/TovuDecode.h>
+
 #include <nlohmann/json_fwd.hpp>
 
 #define TOVU_DECLARE_JSON_CODING(Record)                             \
@@ -35,3 +37,6 @@ TOVU_DECLARE_JSON_CODING(TovuAPISurveyData)
 TOVU_DECLARE_JSON_CODING(TovuAPIMainResponse)
 
 #undef TOVU_DECLARE_JSON_CODING
+
+TOVU_DECLARE_CODING(TovuAPISurveyData)
+TOVU_DECLARE_CODING(TovuAPIMainResponse)
