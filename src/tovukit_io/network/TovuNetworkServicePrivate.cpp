@@ -11,12 +11,14 @@ namespace {
 
 constexpr std::string_view separatorLine = "━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━";
 
-// Errors below the HTTP layer: connection, proxy and protocol failures. The
-// others (content, server) come with a status, which is judged instead.
-bool isTransportError(QNetworkReply::NetworkError error)
+// A reply with an HTTP status is judged by that status (Qt reports a 400 as a
+// "protocol" error, a 404 as a "content" one). Only a reply without a status,
+// or one whose connection failed (codes below 200) after the status arrived,
+// is a transport error.
+bool isTransportError(const QNetworkReply &reply, bool hasStatus)
 {
-    const int code = error;
-    return (code > 0 && code < 200) || (code >= 300 && code < 400);
+    const int code = reply.error();
+    return code != QNetworkReply::NoError && (!hasStatus || code < 200);
 }
 
 TovuError transportError(const QNetworkReply &reply, std::chrono::milliseconds timeout)
@@ -88,7 +90,7 @@ void TovuNetworkServicePrivate::send(const QByteArray &method, const QUrl &url, 
     QObject::connect(reply, &QNetworkReply::finished, q, [reply, timeout, handler = std::move(handler)] {
         reply->deleteLater();
         const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-        if (isTransportError(reply->error()) || (!status.isValid() && reply->error() != QNetworkReply::NoError)) {
+        if (isTransportError(*reply, status.isValid())) {
             handler(std::unexpected(transportError(*reply, timeout)));
             return;
         }
