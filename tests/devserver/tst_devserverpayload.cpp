@@ -191,7 +191,7 @@ TEST_F(DevServerPayload, malformedBodiesAreRefusedAndTheServerCarriesOn)
 {
     const std::string deep = std::string(100000, '[') + std::string(100000, ']');
     const std::vector<std::string> bodies = {
-        "", "   ", "{", "{\"collector_id\": \"c\",}", "nul", "{\"collector_id\": \"\xff\"}", deep,
+        "", "   ", "{", "{\"collector_id\": \"c\",}", "nul", "{\"collector_id\": \"\xff\"}",
     };
     for (const std::string &body : bodies) {
         const auto result = submit(body);
@@ -199,6 +199,10 @@ TEST_F(DevServerPayload, malformedBodiesAreRefusedAndTheServerCarriesOn)
         EXPECT_EQ(result->status, 400) << body.substr(0, 40);
         EXPECT_TRUE(messageOf(result).starts_with("body: invalid JSON: ")) << messageOf(result);
     }
+    const auto tooDeep = submit(deep);
+    ASSERT_TRUE(tooDeep);
+    EXPECT_EQ(tooDeep->status, 400);
+    EXPECT_EQ(messageOf(tooDeep), "body: document is nested deeper than 64 levels");
     EXPECT_EQ(stored(), json::array());
     const auto good = submit(goodPayload().dump());
     ASSERT_TRUE(good);

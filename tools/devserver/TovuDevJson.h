@@ -14,10 +14,8 @@ class TovuDevJson
 public:
     using Json = nlohmann::ordered_json;
 
-    /// Deeper documents are refused before parsing: the parser recurses.
-    static constexpr std::size_t maxDepth = 64;
-
-    /// Parses a request body or a file; the error reads "invalid JSON: …".
+    /// Parses a request body or a file as the library does (64 levels of
+    /// nesting at most); the error reads "invalid JSON: …" or names the limit.
     static std::expected<Json, std::string> parse(std::string_view text);
 
     /// "string", "integer", "object", … as the error messages name kinds.

@@ -130,6 +130,41 @@ void fail(const std::function<void(TovuResult<T>)> &completion, std::string mess
     completion(std::unexpected(TovuNetworkService::makeServiceError(std::move(message))));
 }
 
+// The labels a call's console block gives the reply (each call pads its own).
+struct ReplyLabels {
+    std::string_view status;
+    std::string_view response;
+    std::string_view failure; ///< empty: a failed status is not printed
+};
+
+constexpr ReplyLabels verifyLabels{"    Status   : ", "    Response : ", "    ❌ Verify failed: "};
+constexpr ReplyLabels collectorLabels{"    Status  : ", "    Response: ", "    ❌ Collector fetch failed: "};
+constexpr ReplyLabels surveyLabels{"    Status  : ", "    Response: ", "    ❌ Survey fetch failed: "};
+constexpr ReplyLabels submitLabels{"    Status       : ", "    Response     : ", "    ❌ Submit failed: "};
+constexpr ReplyLabels lowestLabels{"    Status  : ", "    Response: ", ""};
+
+// What every call does first with a reply: pass a transport error on, print
+// status and body, and fail with the server's message unless the status is
+// 2xx. Gives the reply to go on with, or nullptr when the call is over.
+template<class T>
+const TovuHttpReply *successfulReply(const TovuResult<TovuHttpReply> &result, const ReplyLabels &labels,
+                                     const std::function<void(TovuResult<T>)> &completion)
+{
+    if (!result) {
+        completion(std::unexpected(result.error()));
+        return nullptr;
+    }
+    TovuConsole::line(labels.status, std::to_string(result->status));
+    TovuConsole::body(labels.response, result->body);
+    if (TovuReply::isSuccess(result->status))
+        return &*result;
+    const std::string message = TovuReply::failureMessage(*result);
+    if (!labels.failure.empty())
+        TovuConsole::line(labels.failure, message);
+    fail(completion, message);
+    return nullptr;
+}
+
 } // namespace
 
 TovuNetworkService &TovuNetworkService::shared()
@@ -253,17 +288,10 @@ void TovuNetworkService::verifyApiKey(std::function<void(TovuResult<std::string>
 
     const TovuNetworkServicePrivate::Headers headers{{"x-api-key", QByteArray::fromStdString(*d->apiKey)}};
     d->send("GET", *url, headers, {}, [this, completion](TovuResult<TovuHttpReply> result) {
-        if (!result)
-            return completion(std::unexpected(result.error()));
-        const TovuHttpReply &reply = *result;
-        TovuConsole::line("    Status   : ", std::to_string(reply.status));
-        TovuConsole::body("    Response : ", reply.body);
-        if (!TovuReply::isSuccess(reply.status)) {
-            const std::string message = TovuReply::failureMessage(reply);
-            TovuConsole::line("    ❌ Verify failed: ", message);
-            return fail(completion, message);
-        }
-        const std::optional<Json> json = jsonObject(reply.body);
+        const TovuHttpReply *reply = successfulReply(result, verifyLabels, completion);
+        if (!reply)
+            return;
+        const std::optional<Json> json = jsonObject(reply->body);
         if (!json)
             return fail(completion, "Invalid verify response format");
         std::optional<std::string> token = bearerTokenIn(*json);
@@ -294,17 +322,10 @@ void TovuNetworkService::fetchCollector(std::string collectorId,
     TovuNetworkServicePrivate::Headers headers;
     d->addBearer(headers); // sent when held, not required
     d->send("GET", *url, headers, {}, [completion](TovuResult<TovuHttpReply> result) {
-        if (!result)
-            return completion(std::unexpected(result.error()));
-        const TovuHttpReply &reply = *result;
-        TovuConsole::line("    Status  : ", std::to_string(reply.status));
-        TovuConsole::body("    Response: ", reply.body);
-        if (!TovuReply::isSuccess(reply.status)) {
-            const std::string message = TovuReply::failureMessage(reply);
-            TovuConsole::line("    ❌ Collector fetch failed: ", message);
-            return fail(completion, message);
-        }
-        const std::optional<Json> json = jsonObject(reply.body);
+        const TovuHttpReply *reply = successfulReply(result, collectorLabels, completion);
+        if (!reply)
+            return;
+        const std::optional<Json> json = jsonObject(reply->body);
         if (!json) {
             TovuLog::print("    ❌ Invalid collector response format");
             return fail(completion, "Invalid collector response format");
@@ -349,17 +370,10 @@ void TovuNetworkService::fetchSurvey(std::string surveyId, std::function<void(To
     TovuNetworkServicePrivate::Headers headers;
     d->addBearer(headers);
     d->send("GET", *url, headers, {}, [completion](TovuResult<TovuHttpReply> result) {
-        if (!result)
-            return completion(std::unexpected(result.error()));
-        const TovuHttpReply &reply = *result;
-        TovuConsole::line("    Status  : ", std::to_string(reply.status));
-        TovuConsole::body("    Response: ", reply.body);
-        if (!TovuReply::isSuccess(reply.status)) {
-            const std::string message = TovuReply::failureMessage(reply);
-            TovuConsole::line("    ❌ Survey fetch failed: ", message);
-            return fail(completion, message);
-        }
-        const TovuResult<TovuAPIMainResponse> document = tovuDecode<TovuAPIMainResponse>(textOf(reply.body));
+        const TovuHttpReply *reply = successfulReply(result, surveyLabels, completion);
+        if (!reply)
+            return;
+        const TovuResult<TovuAPIMainResponse> document = tovuDecode<TovuAPIMainResponse>(textOf(reply->body));
         if (!document) {
             TovuConsole::line("    ❌ Decoding error: ", document.error().localizedDescription());
             return completion(std::unexpected(document.error()));
@@ -397,16 +411,8 @@ void TovuNetworkService::submitResponse(std::string surveyId, TovuFeedbackReques
     TovuNetworkServicePrivate::Headers headers;
     d->addBearer(headers);
     d->send("POST", *url, headers, QByteArray::fromStdString(*payload), [completion](TovuResult<TovuHttpReply> result) {
-        if (!result)
-            return completion(std::unexpected(result.error()));
-        const TovuHttpReply &reply = *result;
-        TovuConsole::line("    Status       : ", std::to_string(reply.status));
-        TovuConsole::body("    Response     : ", reply.body);
-        if (!TovuReply::isSuccess(reply.status)) {
-            const std::string message = TovuReply::failureMessage(reply);
-            TovuConsole::line("    ❌ Submit failed: ", message);
-            return fail(completion, message);
-        }
+        if (!successfulReply(result, submitLabels, completion))
+            return;
         // An empty 2xx answer is a success too.
         TovuLog::print("    ✅ Response submitted successfully");
         TovuConsole::separator();
@@ -433,14 +439,10 @@ void TovuNetworkService::fetchLowestResponseSurveyId(std::vector<std::string> su
     TovuNetworkServicePrivate::Headers headers;
     d->addBearer(headers);
     d->send("POST", *url, headers, QByteArray::fromStdString(*body), [completion](TovuResult<TovuHttpReply> result) {
-        if (!result)
-            return completion(std::unexpected(result.error()));
-        const TovuHttpReply &reply = *result;
-        TovuConsole::line("    Status  : ", std::to_string(reply.status));
-        TovuConsole::body("    Response: ", reply.body);
-        if (!TovuReply::isSuccess(reply.status))
-            return fail(completion, TovuReply::failureMessage(reply));
-        const TovuResult<LowestResponseAnswer> answer = tovuDecode<LowestResponseAnswer>(textOf(reply.body));
+        const TovuHttpReply *reply = successfulReply(result, lowestLabels, completion);
+        if (!reply)
+            return;
+        const TovuResult<LowestResponseAnswer> answer = tovuDecode<LowestResponseAnswer>(textOf(reply->body));
         if (!answer) {
             TovuConsole::line("    ❌ Decode error: ", answer.error().localizedDescription());
             return completion(std::unexpected(answer.error()));
