@@ -9,11 +9,7 @@ install(TARGETS ${layers} tovukit_io
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
-foreach(layer IN LISTS layers)
-  string(REPLACE "tovukit_" "" name ${layer})
-  get_property(headers GLOBAL PROPERTY TOVUKIT_HEADERS_${name})
-  install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tovukit_io/${name})
-endforeach()
+# Each layer installs its own headers (tovukit_add_layer).
 get_property(umbrella GLOBAL PROPERTY TOVUKIT_HEADERS_umbrella)
 install(FILES ${umbrella} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tovukit_io)
 

@@ -18,6 +18,8 @@
 #include <tovukit_io/model/TovuThemeMode.h>
 #include <tovukit_io/model/TovuUserData.h>
 
+#include <tovukit_io/platform/TovuUrlOpener.h>
+
 #include <tovukit_io/network/CollectorInfo.h>
 #include <tovukit_io/network/TovuAPISurveyData.h>
 #include <tovukit_io/network/TovuAPISurveyDataJson.h>
@@ -25,3 +27,5 @@
 #include <tovukit_io/network/TovuFeedbackRequest.h>
 #include <tovukit_io/network/TovuFeedbackRequestJson.h>
 #include <tovukit_io/network/TovuNetworkService.h>
+
+#include <tovukit_io/ui/kit/TovuPlatformColors.h>
