@@ -1,0 +1,72 @@
+#pragma once
+
+#include <tovukit_io/model/TovuSurvey.h>
+#include <tovukit_io/ui/TovuAppTheme.h>
+
+#include <QColor>
+#include <QFont>
+
+#include <optional>
+#include <string_view>
+
+class TovuBox;
+
+/// Where every native view gets its colours, fonts and corner radius.
+///
+/// Holds the survey's theme (`apiTheme`) and the host app's (`appTheme`).
+/// Each value is resolved on every read: the app's setting wins, then the
+/// survey's, then the platform's default for the current light or dark look.
+/// Views read the engine while they build, so a change shows in views built
+/// afterwards. Main thread only.
+///
+/// \code
+/// TovuThemeEngine &theme = TovuThemeEngine::shared();
+/// theme.configureAppTheme(QColor(0x6A, 0x1B, 0x9A));
+/// title->setFont(theme.font(18, QFont::Bold));
+/// \endcode
+class TovuThemeEngine
+{
+public:
+    /// The process-wide engine; both themes absent until set.
+    static TovuThemeEngine &shared();
+    /// A separate engine, for tests.
+    TovuThemeEngine();
+
+    /// Replaces the survey's theme; nullopt clears it.
+    void setTheme(std::optional<TovuTheme> theme);
+    const std::optional<TovuTheme> &apiTheme() const;
+
+    /// Replaces the app theme whole.
+    void configureAppTheme(TovuAppTheme theme);
+    /// Sets only the app theme's primary colour, keeping its other fields;
+    /// creates an app theme holding just this colour when there is none.
+    void configureAppTheme(QColor primaryColor);
+    const std::optional<TovuAppTheme> &appTheme() const;
+
+    /// Default: the active window's highlight colour, else the platform blue.
+    QColor primaryColor() const;
+    /// Default: the platform's system background.
+    QColor backgroundColor() const;
+    /// Default: the platform's label colour.
+    QColor textColor() const;
+
+    /// `size` scaled by the survey's fontSizeBase (relative to 16). A family the
+    /// app or the survey names is used in its regular face when installed;
+    /// otherwise the system font with `weight`.
+    QFont font(qreal size, QFont::Weight weight) const;
+
+    /// The app's radius, else the survey's, else 12.
+    qreal cornerRadius() const;
+    /// Gives `box` the resolved radius and makes it clip to its bounds.
+    void applyCornerRadius(TovuBox *box) const;
+
+    /// Colour text, six (RRGGBB) or eight (RRGGBBAA) characters after an optional
+    /// '#', to an sRGB colour; any other length gives none. Lenient on purpose:
+    /// the length counts characters, not digits, and the value is the digits read
+    /// before the first non-hex character, so "#12GG56" is (0, 0, 0x12).
+    static std::optional<QColor> colorFromHex(std::string_view text);
+
+private:
+    std::optional<TovuTheme> m_apiTheme;
+    std::optional<TovuAppTheme> m_appTheme;
+};
