@@ -1,0 +1,510 @@
+#include <tovukit_io/ui/kit/TovuButton.h>
+
+#include <tovukit_io/ui/kit/TovuMotion.h>
+#include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/ui/kit/TovuSymbol.h>
+
+#include "TovuKitPainting.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QFontMetrics>
+#include <QGraphicsEffect>
+#include <QKeySequence>
+#include <QPainter>
+#include <QPropertyAnimation>
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+// While the button is drawn larger than itself, it paints through this effect, which may
+// draw outside the widget's bounds. The button's own painting is reused, so the scaled
+// button stays vector-sharp instead of being a stretched snapshot.
+class TovuButtonScaleEffect : public QGraphicsEffect
+{
+public:
+    explicit TovuButtonScaleEffect(TovuButton *button)
+        : QGraphicsEffect(button)
+        , m_button(button)
+    { }
+
+    QRectF boundingRectFor(const QRectF &rect) const override
+    {
+        const qreal scale = std::max<qreal>(1, m_button->m_scale);
+        const QSizeF size = rect.size() * scale;
+        return QRectF(rect.center() - QPointF(size.width() / 2, size.height() / 2), size).adjusted(-1, -1, 1, 1);
+    }
+
+    void refresh()
+    {
+        updateBoundingRect();
+        update();
+    }
+
+protected:
+    void draw(QPainter *painter) override
+    {
+        painter->save();
+        m_button->paintContent(*painter);
+        painter->restore();
+    }
+
+private:
+    TovuButton *m_button;
+};
+
+namespace {
+
+// Room kept between the accessory and the title.
+constexpr qreal accessoryGap = 10;
+
+} // namespace
+
+TovuButton::TovuButton(const QString &title, QWidget *parent)
+    : QAbstractButton(parent)
+{
+    // Corners outside the radius stay transparent, also when the button is grabbed alone.
+    setAttribute(Qt::WA_NoSystemBackground);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum, QSizePolicy::PushButton);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    setText(title);
+    connect(this, &QAbstractButton::pressed, this, [this] {
+        if (m_pressAnimationEnabled)
+            animateScale(0.96, 0.1);
+    });
+    connect(this, &QAbstractButton::released, this, [this] {
+        if (m_pressAnimationEnabled)
+            animateScale(1.0, 0.15);
+    });
+}
+
+TovuButton::~TovuButton()
+{
+    // The effect reads the button's scale; it must go while this is still a TovuButton.
+    if (dynamic_cast<TovuButtonScaleEffect *>(graphicsEffect()))
+        setGraphicsEffect(nullptr);
+}
+
+void TovuButton::setText(const QString &title)
+{
+    QAbstractButton::setText(title);
+    syncTitle();
+}
+
+void TovuButton::syncTitle()
+{
+    const QString title = text();
+    if (title == m_syncedTitle)
+        return;
+    m_syncedTitle = title;
+    // Survey text is shown literally: an "&" in it must not become a keyboard shortcut.
+    if (!shortcut().isEmpty() && shortcut() == QKeySequence::mnemonic(title))
+        setShortcut(QKeySequence());
+    // Follow the title unless someone chose another accessible name.
+    if (accessibleName().isEmpty() || accessibleName() == m_autoAccessibleName) {
+        m_autoAccessibleName = title;
+        setAccessibleName(title);
+    }
+}
+
+QColor TovuButton::backgroundColor() const
+{
+    return m_backgroundColor.isValid() ? m_backgroundColor
+                                       : TovuPlatformColors::color(TovuPlatformColors::Role::systemBackground);
+}
+
+void TovuButton::setBackgroundColor(const QColor &color)
+{
+    if (m_backgroundColor == color)
+        return;
+    m_backgroundColor = color;
+    update();
+}
+
+QColor TovuButton::borderColor() const
+{
+    return m_borderColor.isValid() ? m_borderColor : TovuPlatformColors::color(TovuPlatformColors::Role::gray4);
+}
+
+void TovuButton::setBorderColor(const QColor &color)
+{
+    if (m_borderColor == color)
+        return;
+    m_borderColor = color;
+    update();
+}
+
+qreal TovuButton::borderWidth() const
+{
+    return m_borderWidth;
+}
+
+void TovuButton::setBorderWidth(qreal width)
+{
+    width = std::isfinite(width) ? std::max<qreal>(0, width) : 0;
+    if (m_borderWidth == width)
+        return;
+    m_borderWidth = width;
+    update();
+}
+
+qreal TovuButton::cornerRadius() const
+{
+    return m_cornerRadius;
+}
+
+void TovuButton::setCornerRadius(qreal radius)
+{
+    radius = std::isfinite(radius) ? std::max<qreal>(0, radius) : 0;
+    if (m_cornerRadius == radius)
+        return;
+    m_cornerRadius = radius;
+    update();
+}
+
+QColor TovuButton::titleColor() const
+{
+    return m_titleColor.isValid() ? m_titleColor : TovuPlatformColors::color(TovuPlatformColors::Role::label);
+}
+
+void TovuButton::setTitleColor(const QColor &color)
+{
+    if (m_titleColor == color)
+        return;
+    m_titleColor = color;
+    update();
+}
+
+Qt::Alignment TovuButton::titleAlignment() const
+{
+    return m_titleAlignment;
+}
+
+void TovuButton::setTitleAlignment(Qt::Alignment alignment)
+{
+    alignment &= Qt::AlignHorizontal_Mask;
+    if (m_titleAlignment == alignment)
+        return;
+    m_titleAlignment = alignment;
+    update();
+}
+
+QMargins TovuButton::contentInsets() const
+{
+    return m_contentInsets;
+}
+
+void TovuButton::setContentInsets(const QMargins &insets)
+{
+    if (m_contentInsets == insets)
+        return;
+    m_contentInsets = insets;
+    updateGeometry();
+    update();
+}
+
+TovuButton::Accessory TovuButton::accessory() const
+{
+    return m_accessory;
+}
+
+void TovuButton::setAccessory(Accessory accessory)
+{
+    if (m_accessory == accessory)
+        return;
+    m_accessory = accessory;
+    updateGeometry();
+    update();
+}
+
+QColor TovuButton::accessoryColor() const
+{
+    return m_accessoryColor.isValid() ? m_accessoryColor : TovuPlatformColors::color(TovuPlatformColors::Role::blue);
+}
+
+void TovuButton::setAccessoryColor(const QColor &color)
+{
+    if (m_accessoryColor == color)
+        return;
+    m_accessoryColor = color;
+    update();
+}
+
+qreal TovuButton::accessorySize() const
+{
+    if (m_accessorySize >= 0)
+        return m_accessorySize;
+    return m_accessory == Accessory::checkbox ? 22 : 20;
+}
+
+void TovuButton::setAccessorySize(qreal size)
+{
+    size = std::isfinite(size) ? std::max<qreal>(0, size) : 0;
+    if (m_accessorySize == size)
+        return;
+    m_accessorySize = size;
+    updateGeometry();
+    update();
+}
+
+qreal TovuButton::accessoryInset() const
+{
+    return m_accessoryInset;
+}
+
+void TovuButton::setAccessoryInset(qreal inset)
+{
+    inset = std::isfinite(inset) ? inset : 0;
+    if (m_accessoryInset == inset)
+        return;
+    m_accessoryInset = inset;
+    updateGeometry();
+    update();
+}
+
+qreal TovuButton::scale() const
+{
+    return m_scale;
+}
+
+void TovuButton::setScale(qreal scale)
+{
+    if (!std::isfinite(scale))
+        return;
+    scale = std::clamp<qreal>(scale, 0, 10);
+    if (m_scale == scale)
+        return;
+    // What was drawn beyond the bounds belongs to the parent, which Qt does not repaint
+    // when the drawing shrinks back.
+    if (m_scale > 1 && parentWidget()) {
+        const QPointF centre = QRectF(geometry()).center();
+        const QSizeF size = QSizeF(this->size()) * m_scale;
+        parentWidget()->update(
+            QRectF(centre - QPointF(size.width() / 2, size.height() / 2), size).toAlignedRect().adjusted(-1, -1, 1, 1));
+    }
+    m_scale = scale;
+    updateScaleEffect();
+    update();
+}
+
+bool TovuButton::pressAnimationEnabled() const
+{
+    return m_pressAnimationEnabled;
+}
+
+void TovuButton::setPressAnimationEnabled(bool enabled)
+{
+    if (m_pressAnimationEnabled == enabled)
+        return;
+    m_pressAnimationEnabled = enabled;
+    if (!enabled && m_scaleAnimation && m_scaleAnimation->state() == QAbstractAnimation::Running) {
+        m_scaleAnimation->stop();
+        setScale(1);
+    }
+}
+
+void TovuButton::animateScale(qreal target, qreal seconds)
+{
+    if (!m_scaleAnimation)
+        m_scaleAnimation = new QPropertyAnimation(this, "scale", this);
+    m_scaleAnimation->stop();
+    const int duration = TovuMotion::durationMs(seconds);
+    if (duration == 0) {
+        setScale(target);
+        return;
+    }
+    m_scaleAnimation->setDuration(duration);
+    m_scaleAnimation->setStartValue(m_scale);
+    m_scaleAnimation->setEndValue(target);
+    m_scaleAnimation->setEasingCurve(TovuMotion::easeOut());
+    m_scaleAnimation->start();
+}
+
+void TovuButton::updateScaleEffect()
+{
+    auto *effect = dynamic_cast<TovuButtonScaleEffect *>(graphicsEffect());
+    if (m_scale > 1) {
+        if (effect)
+            effect->refresh();
+        else if (!graphicsEffect()) // never replace an effect a host set
+            setGraphicsEffect(new TovuButtonScaleEffect(this));
+    } else if (effect) {
+        setGraphicsEffect(nullptr);
+    }
+}
+
+QMargins TovuButton::visualInsets() const
+{
+    QMargins insets = m_contentInsets;
+    if (m_accessory != Accessory::none) {
+        const int needed = static_cast<int>(std::ceil(m_accessoryInset + accessorySize() + accessoryGap));
+        insets.setLeft(std::max(insets.left(), needed));
+    }
+    if (layoutDirection() == Qt::RightToLeft)
+        return QMargins(insets.right(), insets.top(), insets.left(), insets.bottom());
+    return insets;
+}
+
+int TovuButton::textFlags() const
+{
+    const Qt::Alignment horizontal = m_titleAlignment ? m_titleAlignment : Qt::AlignHCenter;
+    return static_cast<int>(QStyle::visualAlignment(layoutDirection(), horizontal)) | Qt::AlignVCenter
+        | Qt::TextWordWrap;
+}
+
+int TovuButton::textHeight(int width) const
+{
+    const QFontMetrics metrics(font());
+    if (text().isEmpty())
+        return metrics.height();
+    const QMargins insets = visualInsets();
+    const int available = std::max(1, width - insets.left() - insets.right());
+    return metrics.boundingRect(QRect(0, 0, available, std::numeric_limits<int>::max() / 4), textFlags(), text())
+        .height();
+}
+
+int TovuButton::heightForWidth(int width) const
+{
+    const QMargins insets = visualInsets();
+    int content = textHeight(width);
+    if (m_accessory != Accessory::none)
+        content = std::max(content, static_cast<int>(std::ceil(accessorySize())));
+    return content + insets.top() + insets.bottom();
+}
+
+bool TovuButton::hasHeightForWidth() const
+{
+    return true;
+}
+
+QSize TovuButton::sizeHint() const
+{
+    ensurePolished();
+    const QFontMetrics metrics(font());
+    const QMargins insets = visualInsets();
+    // One line per paragraph: wrapping only starts when the layout gives less.
+    const int textWidth = text().isEmpty() ? 0 : metrics.boundingRect(QRect(), Qt::AlignLeft, text()).width() + 1;
+    const int width = insets.left() + insets.right() + textWidth;
+    return QSize(width, heightForWidth(width));
+}
+
+QSize TovuButton::minimumSizeHint() const
+{
+    ensurePolished();
+    const QFontMetrics metrics(font());
+    const QMargins insets = visualInsets();
+    const int hint = sizeHint().width() - insets.left() - insets.right();
+    const int width = insets.left() + insets.right() + std::min(hint, metrics.averageCharWidth() * 8);
+    return QSize(width, sizeHint().height());
+}
+
+void TovuButton::paintEvent(QPaintEvent *)
+{
+    // The title may have been set through QAbstractButton or the property system.
+    syncTitle();
+    QPainter painter(this);
+    paintContent(painter);
+}
+
+void TovuButton::paintContent(QPainter &painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    if (!isEnabled())
+        painter.setOpacity(0.5);
+    const QRectF bounds = rect();
+    if (m_scale != 1) {
+        painter.translate(bounds.center());
+        painter.scale(m_scale, m_scale);
+        painter.translate(-bounds.center());
+    }
+    TovuKitPainting::paintBox(painter, bounds, backgroundColor(), borderColor(), m_borderWidth, m_cornerRadius);
+    if (m_accessory != Accessory::none)
+        paintAccessory(painter, bounds);
+
+    if (!text().isEmpty()) {
+        painter.setFont(font());
+        painter.setPen(titleColor());
+        painter.setLayoutDirection(layoutDirection());
+        painter.drawText(bounds.marginsRemoved(QMarginsF(visualInsets())), textFlags(), text());
+    }
+
+    // Keyboard users need to see where they are; a pointer press shows no ring.
+    if (hasFocus() && m_keyboardFocus) {
+        const qreal radius = TovuKitPainting::effectiveRadius(bounds.size(), m_cornerRadius);
+        painter.strokePath(TovuKitPainting::roundedRect(bounds.adjusted(1, 1, -1, -1), std::max<qreal>(0, radius - 1)),
+                           QPen(accessoryColor(), 2));
+    }
+}
+
+void TovuButton::paintAccessory(QPainter &painter, const QRectF &bounds)
+{
+    const qreal side = accessorySize();
+    if (side <= 0)
+        return;
+    const qreal x = layoutDirection() == Qt::RightToLeft ? bounds.right() - m_accessoryInset - side
+                                                         : bounds.left() + m_accessoryInset;
+    const QRectF mark(x, bounds.center().y() - side / 2, side, side);
+    const bool checked = isChecked();
+    const QColor tint = accessoryColor();
+    const QColor ring = checked ? tint : TovuPlatformColors::color(TovuPlatformColors::Role::gray3);
+    const QColor fill = checked ? tint : QColor(Qt::transparent);
+    const qreal ringWidth = std::min<qreal>(2, side / 4);
+
+    if (m_accessory == Accessory::radio) {
+        TovuKitPainting::paintBox(painter, mark, fill, ring, ringWidth, side / 2);
+        if (checked) {
+            // A 10-point dot, smaller in small circles.
+            const qreal dot = std::min<qreal>(10, side * 0.56);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(Qt::white);
+            painter.drawEllipse(mark.center(), dot / 2, dot / 2);
+        }
+    } else {
+        TovuKitPainting::paintBox(painter, mark, fill, ring, ringWidth, side * 6 / 22);
+        if (checked) {
+            const qreal check = side * 13 / 22;
+            TovuSymbol::paint(painter, QRectF(mark.center() - QPointF(check / 2, check / 2), QSizeF(check, check)),
+                              u"checkmark", QFont::DemiBold, Qt::white);
+        }
+    }
+}
+
+void TovuButton::changeEvent(QEvent *event)
+{
+    QAbstractButton::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::LayoutDirectionChange:
+        updateGeometry();
+        update();
+        break;
+    case QEvent::PaletteChange:
+    case QEvent::ApplicationPaletteChange:
+        update();
+        break;
+    case QEvent::EnabledChange:
+        if (!isEnabled() && m_pressAnimationEnabled)
+            animateScale(1.0, 0);
+        break;
+    default:
+        break;
+    }
+}
+
+void TovuButton::focusInEvent(QFocusEvent *event)
+{
+    m_keyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
+        || event->reason() == Qt::ShortcutFocusReason;
+    QAbstractButton::focusInEvent(event);
+    update();
+}
+
+void TovuButton::focusOutEvent(QFocusEvent *event)
+{
+    m_keyboardFocus = false;
+    QAbstractButton::focusOutEvent(event);
+    update();
+}

@@ -1,0 +1,133 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+#include <QMargins>
+
+class QPropertyAnimation;
+
+/// A button with the look of a TovuBox: background, border and corner radius, a title
+/// in the widget's font and `titleColor` that wraps onto several lines when narrow, and
+/// an optional radio or checkbox mark at the leading edge that shows `isChecked()`.
+///
+/// The title is shown literally: no mnemonics, no markup. The accessible name follows
+/// the title unless something else was set. Left and right insets are the leading and
+/// trailing ones and swap in right-to-left layouts, as does the accessory.
+///
+/// \code
+/// auto *row = new TovuButton(option.text, parent);
+/// row->setAccessory(TovuButton::Accessory::radio);
+/// row->setCheckable(true);
+/// row->setTitleAlignment(Qt::AlignLeading);
+/// row->setContentInsets(QMargins(48, 14, 16, 14));
+/// connect(row, &QAbstractButton::clicked, view, [=] { ... });
+/// \endcode
+class TovuButton : public QAbstractButton
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QColor borderColor READ borderColor WRITE setBorderColor)
+    Q_PROPERTY(qreal borderWidth READ borderWidth WRITE setBorderWidth)
+    Q_PROPERTY(qreal cornerRadius READ cornerRadius WRITE setCornerRadius)
+    Q_PROPERTY(QColor titleColor READ titleColor WRITE setTitleColor)
+    Q_PROPERTY(Qt::Alignment titleAlignment READ titleAlignment WRITE setTitleAlignment)
+    Q_PROPERTY(QMargins contentInsets READ contentInsets WRITE setContentInsets)
+    Q_PROPERTY(Accessory accessory READ accessory WRITE setAccessory)
+    Q_PROPERTY(QColor accessoryColor READ accessoryColor WRITE setAccessoryColor)
+    Q_PROPERTY(qreal accessorySize READ accessorySize WRITE setAccessorySize)
+    Q_PROPERTY(qreal accessoryInset READ accessoryInset WRITE setAccessoryInset)
+    Q_PROPERTY(qreal scale READ scale WRITE setScale)
+    Q_PROPERTY(bool pressAnimationEnabled READ pressAnimationEnabled WRITE setPressAnimationEnabled)
+
+public:
+    enum class Accessory { none, radio, checkbox };
+    Q_ENUM(Accessory)
+
+    explicit TovuButton(const QString &title = {}, QWidget *parent = nullptr);
+    ~TovuButton() override;
+
+    /// Sets the title; also keeps the accessible name in step (see the class comment).
+    void setText(const QString &title);
+
+    /// Unset colours (or an invalid QColor) follow the platform colours: system
+    /// background, system gray 4, label and blue.
+    QColor backgroundColor() const;
+    void setBackgroundColor(const QColor &color);
+    QColor borderColor() const;
+    void setBorderColor(const QColor &color);
+    qreal borderWidth() const;
+    void setBorderWidth(qreal width);
+    qreal cornerRadius() const;
+    void setCornerRadius(qreal radius);
+    QColor titleColor() const;
+    void setTitleColor(const QColor &color);
+    /// Only the horizontal part counts; the title is always centred vertically. Centred by default.
+    Qt::Alignment titleAlignment() const;
+    void setTitleAlignment(Qt::Alignment alignment);
+    /// Space around the title: (16, 10, 16, 10) by default. With an accessory the leading
+    /// inset grows if needed so the title never runs into the mark.
+    QMargins contentInsets() const;
+    void setContentInsets(const QMargins &insets);
+
+    Accessory accessory() const;
+    void setAccessory(Accessory accessory);
+    /// Fill of the checked mark and its border.
+    QColor accessoryColor() const;
+    void setAccessoryColor(const QColor &color);
+    /// Side of the mark: 20 for a radio circle and 22 for a checkbox unless set.
+    qreal accessorySize() const;
+    void setAccessorySize(qreal size);
+    /// Distance of the mark from the leading edge; 16 by default.
+    qreal accessoryInset() const;
+    void setAccessoryInset(qreal inset);
+
+    /// Drawing scale about the centre; 1 is normal. Above 1 the button draws beyond its
+    /// bounds, as a bump animation expects.
+    qreal scale() const;
+    void setScale(qreal scale);
+    /// When on (the default), pressing shrinks the button to 0.96 and releasing brings it
+    /// back to 1. Views that animate `scale` themselves turn this off.
+    bool pressAnimationEnabled() const;
+    void setPressAnimationEnabled(bool enabled);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override;
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    friend class TovuButtonScaleEffect;
+
+    void paintContent(QPainter &painter);
+    void paintAccessory(QPainter &painter, const QRectF &bounds);
+    void syncTitle();
+    void animateScale(qreal target, qreal seconds);
+    void updateScaleEffect();
+    int textFlags() const;
+    QMargins visualInsets() const;
+    int textHeight(int width) const;
+
+    QColor m_backgroundColor;
+    QColor m_borderColor;
+    QColor m_titleColor;
+    QColor m_accessoryColor;
+    qreal m_borderWidth = 0;
+    qreal m_cornerRadius = 0;
+    Qt::Alignment m_titleAlignment = Qt::AlignHCenter;
+    QMargins m_contentInsets = QMargins(16, 10, 16, 10);
+    Accessory m_accessory = Accessory::none;
+    qreal m_accessorySize = -1;
+    qreal m_accessoryInset = 16;
+    qreal m_scale = 1;
+    bool m_pressAnimationEnabled = true;
+    bool m_keyboardFocus = false;
+    QString m_syncedTitle;
+    QString m_autoAccessibleName;
+    QPropertyAnimation *m_scaleAnimation = nullptr;
+};

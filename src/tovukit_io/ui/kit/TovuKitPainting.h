@@ -1,0 +1,28 @@
+#pragma once
+
+// Painting shared by the kit's box and button; not installed.
+
+#include <QColor>
+#include <QPainterPath>
+#include <QRectF>
+#include <QRegion>
+#include <QSize>
+
+class QPainter;
+
+namespace TovuKitPainting {
+
+/// The radius actually drawn: never more than half the shorter side, never negative.
+qreal effectiveRadius(const QSizeF &size, qreal radius);
+
+QPainterPath roundedRect(const QRectF &rect, qreal radius);
+
+/// Background over the whole shape, then the border inside it, like a layer's border.
+void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border, qreal borderWidth,
+              qreal radius);
+
+/// Every whole pixel the rounded shape touches: a mask that keeps the shape's
+/// antialiased edge and cuts what lies beyond it.
+QRegion roundedRegion(const QSize &size, qreal radius);
+
+} // namespace TovuKitPainting
