@@ -28,4 +28,14 @@
 #include <tovukit_io/network/TovuFeedbackRequestJson.h>
 #include <tovukit_io/network/TovuNetworkService.h>
 
+#include <tovukit_io/ui/TovuAppTheme.h>
+#include <tovukit_io/ui/TovuIntroView.h>
+#include <tovukit_io/ui/TovuThankYouView.h>
+#include <tovukit_io/ui/TovuThemeEngine.h>
+#include <tovukit_io/ui/TovuToasterView.h>
+#include <tovukit_io/ui/kit/TovuBox.h>
+#include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/ui/kit/TovuLabels.h>
+#include <tovukit_io/ui/kit/TovuMotion.h>
 #include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/ui/kit/TovuSymbol.h>

@@ -211,20 +211,20 @@ TEST(ThemeEngine, FontSizeScalesWithTheSurveysBase)
 {
     const QFont system = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     TovuThemeEngine engine;
-    EXPECT_DOUBLE_EQ(engine.font(16, QFont::Normal).pointSizeF(), 16);
+    EXPECT_EQ(engine.font(16, QFont::Normal).pixelSize(), 16);
 
     TovuTheme theme;
     theme.fontSizeBase = 20;
     engine.setTheme(theme);
     const QFont bold = engine.font(16, QFont::Bold);
-    EXPECT_DOUBLE_EQ(bold.pointSizeF(), 20);
+    EXPECT_EQ(bold.pixelSize(), 20);
     EXPECT_EQ(bold.weight(), QFont::Bold);
     EXPECT_EQ(bold.family(), system.family());
-    EXPECT_DOUBLE_EQ(engine.font(13, QFont::Normal).pointSizeF(), 16.25);
+    EXPECT_EQ(engine.font(13, QFont::Normal).pixelSize(), 16); // 16.25, to whole pixels
 
     theme.fontSizeBase = 18;
     engine.setTheme(theme);
-    EXPECT_DOUBLE_EQ(engine.font(16, QFont::Light).pointSizeF(), 18);
+    EXPECT_EQ(engine.font(16, QFont::Light).pixelSize(), 18);
 }
 
 TEST(ThemeEngine, OnlyAnInstalledFamilyReplacesTheSystemFont)
@@ -242,7 +242,7 @@ TEST(ThemeEngine, OnlyAnInstalledFamilyReplacesTheSystemFont)
     QFont font = engine.font(16, QFont::DemiBold);
     EXPECT_EQ(font.family(), systemFamily);
     EXPECT_EQ(font.weight(), QFont::DemiBold);
-    EXPECT_DOUBLE_EQ(font.pointSizeF(), 20);
+    EXPECT_EQ(font.pixelSize(), 20);
 
     // A known family is used at the scaled size in its regular face.
     theme.fontFamily = installed.toLower().toStdString();
@@ -250,7 +250,7 @@ TEST(ThemeEngine, OnlyAnInstalledFamilyReplacesTheSystemFont)
     font = engine.font(16, QFont::Bold);
     EXPECT_EQ(font.family().compare(installed, Qt::CaseInsensitive), 0);
     EXPECT_EQ(font.weight(), QFont::Normal);
-    EXPECT_DOUBLE_EQ(font.pointSizeF(), 20);
+    EXPECT_EQ(font.pixelSize(), 20);
 
     // The app's family is chosen before the survey's; when it is not installed
     // the survey's is not tried.
@@ -308,7 +308,7 @@ TEST(ThemeEngine, ClearingTheSurveyThemeRestoresTheDefaults)
     EXPECT_EQ(engine.primaryColor(), QColor(0x00, 0x7A, 0xFF));
     EXPECT_EQ(engine.backgroundColor(), QColor(Qt::white));
     EXPECT_EQ(engine.textColor(), QColor(Qt::black));
-    EXPECT_DOUBLE_EQ(engine.font(15, QFont::Normal).pointSizeF(), 15);
+    EXPECT_EQ(engine.font(15, QFont::Normal).pixelSize(), 15);
     EXPECT_DOUBLE_EQ(engine.cornerRadius(), 12);
 }
 

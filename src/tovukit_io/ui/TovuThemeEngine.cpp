@@ -155,9 +155,11 @@ QFont TovuThemeEngine::font(qreal size, QFont::Weight weight) const
         font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
         font.setWeight(weight);
     }
-    // QFont rejects non-positive sizes with a warning; a nonsensical base keeps the default size.
-    if (scaled > 0)
-        font.setPointSizeF(scaled);
+    // Sizes are layout points, the same unit as every other measure of the
+    // views: device-independent pixels, whatever the screen's DPI. QFont
+    // rejects non-positive sizes with a warning; a nonsensical base keeps the default.
+    if (scaled >= 0.5)
+        font.setPixelSize(qRound(scaled));
     return font;
 }
 

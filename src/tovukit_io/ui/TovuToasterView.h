@@ -1,0 +1,98 @@
+#pragma once
+
+#include <tovukit_io/model/TovuSurvey.h>
+
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+class QScrollArea;
+class QVBoxLayout;
+class QVariantAnimation;
+class TovuBox;
+class TovuButton;
+
+/// The bottom sheet a native survey is shown in: a dimming layer over the
+/// host widget, and a rounded panel with a grab handle, "Skip" and one slot
+/// for the current page, which slides up from the bottom edge.
+///
+/// \code
+/// auto *sheet = new TovuToasterView(survey);
+/// sheet->onSkip = [] { qDebug() << "skipped"; };
+/// sheet->setQuestionView(new TovuIntroView(*survey.introPage));
+/// sheet->present(hostWindow);   // covers hostWindow and follows its size
+/// \endcode
+///
+/// The panel is at most 92 % of the host's height; taller pages scroll
+/// inside it. It rises above the on-screen keyboard while one is shown.
+/// After dismiss() the sheet removes and deletes itself.
+class TovuToasterView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TovuToasterView(std::optional<TovuSurvey> survey, QWidget *parent = nullptr);
+    ~TovuToasterView() override;
+
+    /// Covers `host` (and follows its resizes) and slides the panel in.
+    void present(QWidget *host);
+    /// Slides the panel out and fades the sheet; then removes and deletes it.
+    void dismiss();
+    /// The only page in the slot from now on; the previous one is deleted.
+    void setQuestionView(QWidget *view);
+
+    /// The keyboard is about to cover `keyboardFrame` (in screen or sheet
+    /// coordinates; only its height counts), over `durationMs`.
+    void keyboardWillShow(const QRectF &keyboardFrame, int durationMs);
+    void keyboardWillHide(int durationMs);
+
+    TovuBox *containerView() const { return m_containerView; }
+    TovuBox *handleView() const { return m_handleView; }
+    TovuButton *skipButton() const { return m_skipButton; }
+    QVBoxLayout *contentStackView() const { return m_contentStack; }
+    QScrollArea *contentScrollArea() const { return m_scrollArea; }
+    const std::optional<TovuSurvey> &survey() const { return m_survey; }
+    /// How far the panel's bottom sits above the sheet's bottom edge (the keyboard's height, or 0).
+    qreal containerBottomOffset() const { return m_bottomOffset; }
+    /// The dimming layer's alpha: the survey theme's transparency, else 0.5.
+    qreal dimmingAlpha() const { return m_dimmingAlpha; }
+    /// The panel's slide: 0 in place, up to 1000 off the bottom edge.
+    qreal panelTranslation() const { return m_translation; }
+    bool isDismissing() const { return m_dismissing; }
+
+    /// Told when the respondent taps Skip, before the sheet closes.
+    std::function<void()> onSkip;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildPanel();
+    void skipTapped();
+    void layoutPanel();
+    int panelHeight() const;
+    void setTranslation(qreal translation);
+    void setBottomOffset(qreal offset);
+    void animateBottomOffset(qreal target, int durationMs);
+    void trackKeyboard(bool on);
+    void keyboardRectangleChanged();
+
+    std::optional<TovuSurvey> m_survey;
+    QPointer<QWidget> m_host;
+    TovuBox *m_containerView = nullptr;
+    TovuBox *m_handleView = nullptr;
+    TovuButton *m_skipButton = nullptr;
+    QScrollArea *m_scrollArea = nullptr;
+    QWidget *m_content = nullptr;
+    QVBoxLayout *m_contentStack = nullptr;
+    QPointer<QVariantAnimation> m_keyboardAnimation;
+    qreal m_dimmingAlpha = 0.5;
+    qreal m_translation = 0;
+    qreal m_bottomOffset = 0;
+    bool m_dismissing = false;
+    bool m_trackingKeyboard = false;
+};
