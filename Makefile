@@ -8,7 +8,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 # CI builds treat warnings as errors.
 WERROR := $(if $(CI),ON,OFF)
 
-.PHONY: all bootstrap configure build test demo bench format format-check clean
+.PHONY: all bootstrap configure build test demo bench screenshots format format-check clean
 
 all: build
 
@@ -28,6 +28,10 @@ test: build
 # every bundled survey document.
 demo: build
 	$(BUILD_DIR)/tools/inspect/tovu-inspect samples/surveys/*.json
+
+# PNGs of the survey sheet, its pages and the widget kit, light and dark, at 2x.
+screenshots: build
+	$(BUILD_DIR)/tools/screenshots/tovu-screenshots build/screenshots
 
 bench:
 	$(MAKE) build PRESET=release

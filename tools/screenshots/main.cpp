@@ -6,6 +6,8 @@
 // with the intro page, with the thank-you page, with a page taller than the
 // sheet, and with a survey theme (transparency 0.2, its own colours, font base 20).
 
+#include "TovuKitSampleSheet.h"
+
 #include <tovukit_io/ui/TovuIntroView.h>
 #include <tovukit_io/ui/TovuThankYouView.h>
 #include <tovukit_io/ui/TovuThemeEngine.h>
@@ -22,6 +24,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -87,6 +90,15 @@ bool shoot(const QString &path, std::optional<TovuSurvey> survey, const std::fun
     return saved;
 }
 
+bool shootKit(const QString &path)
+{
+    std::unique_ptr<QWidget> sheet(TovuKitSampleSheet::build());
+    sheet->show();
+    const bool saved = sheet->grab().save(path);
+    std::printf("%s %s\n", saved ? "wrote" : "could not write", qPrintable(path));
+    return saved;
+}
+
 TovuSurvey themedSurvey()
 {
     return TovuSurvey{
@@ -133,6 +145,7 @@ int main(int argc, char **argv)
         ok &= shoot(file("sheet-thankyou"), std::nullopt, [&] { return new TovuThankYouView(thanks); });
         ok &= shoot(file("sheet-long"), std::nullopt, longPage);
         ok &= shoot(file("sheet-themed"), themedSurvey(), [&] { return new TovuIntroView(intro); });
+        ok &= shootKit(file("kit"));
     }
     return ok ? 0 : 1;
 }

@@ -1,5 +1,4 @@
-// Renders a sheet of kit samples, light and dark, at 2× for people to look at
-// (TOVU_SHOTS_DIR, /tmp/tovu-shots by default).
+#include "TovuKitSampleSheet.h"
 
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
@@ -8,16 +7,12 @@
 #include <tovukit_io/ui/kit/TovuSymbol.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPixmap>
 #include <QVBoxLayout>
 
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <utility>
 
 namespace {
@@ -73,7 +68,9 @@ TovuButton *option(const QString &title, TovuButton::Accessory accessory, bool c
     return button;
 }
 
-QWidget *buildSheet()
+} // namespace
+
+QWidget *TovuKitSampleSheet::build()
 {
     auto *sheet = new TovuBox;
     sheet->setBackgroundColor(platform(Role::systemBackground));
@@ -154,39 +151,4 @@ QWidget *buildSheet()
     // Wrapped titles need the height for the final width, not the one-line size hint.
     sheet->resize(760, sheet->heightForWidth(760));
     return sheet;
-}
-
-void renderSheet(const QString &fileName)
-{
-    std::unique_ptr<QWidget> sheet(buildSheet());
-    sheet->show(); // lays the sheet out
-    QPixmap pixmap(sheet->size() * 2);
-    pixmap.setDevicePixelRatio(2);
-    pixmap.fill(Qt::transparent);
-    sheet->render(&pixmap);
-    const QString dir = qEnvironmentVariable("TOVU_SHOTS_DIR", QStringLiteral("/tmp/tovu-shots"));
-    ASSERT_TRUE(QDir().mkpath(dir));
-    ASSERT_TRUE(pixmap.save(dir + QLatin1Char('/') + fileName));
-    // The sheet's own background fills it edge to edge.
-    EXPECT_EQ(pixmap.toImage().pixelColor(pixmap.width() / 2, 2), platform(Role::systemBackground));
-}
-
-} // namespace
-
-TEST(KitScreenshots, LightAndDarkSheets)
-{
-    const QPalette original = QApplication::palette();
-    renderSheet(QStringLiteral("kit-light.png"));
-
-    QPalette dark;
-    dark.setColor(QPalette::Window, QColor(0x1C, 0x1C, 0x1E));
-    dark.setColor(QPalette::WindowText, Qt::white);
-    dark.setColor(QPalette::Base, Qt::black);
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::Button, QColor(0x2C, 0x2C, 0x2E));
-    dark.setColor(QPalette::ButtonText, Qt::white);
-    QApplication::setPalette(dark);
-    ASSERT_TRUE(TovuPlatformColors::isDark());
-    renderSheet(QStringLiteral("kit-dark.png"));
-    QApplication::setPalette(original);
 }
