@@ -287,7 +287,7 @@ void TovuNetworkService::verifyApiKey(std::function<void(TovuResult<std::string>
     TovuConsole::line("    URL  : ", urlText);
 
     const TovuNetworkServicePrivate::Headers headers{{"x-api-key", QByteArray::fromStdString(*d->apiKey)}};
-    d->send("GET", *url, headers, {}, [this, completion](TovuResult<TovuHttpReply> result) {
+    d->send("GET", *url, headers, {}, [this, completion = std::move(completion)](TovuResult<TovuHttpReply> result) {
         const TovuHttpReply *reply = successfulReply(result, verifyLabels, completion);
         if (!reply)
             return;
@@ -321,7 +321,7 @@ void TovuNetworkService::fetchCollector(std::string collectorId,
 
     TovuNetworkServicePrivate::Headers headers;
     d->addBearer(headers); // sent when held, not required
-    d->send("GET", *url, headers, {}, [completion](TovuResult<TovuHttpReply> result) {
+    d->send("GET", *url, headers, {}, [completion = std::move(completion)](TovuResult<TovuHttpReply> result) {
         const TovuHttpReply *reply = successfulReply(result, collectorLabels, completion);
         if (!reply)
             return;
@@ -369,7 +369,7 @@ void TovuNetworkService::fetchSurvey(std::string surveyId, std::function<void(To
 
     TovuNetworkServicePrivate::Headers headers;
     d->addBearer(headers);
-    d->send("GET", *url, headers, {}, [completion](TovuResult<TovuHttpReply> result) {
+    d->send("GET", *url, headers, {}, [completion = std::move(completion)](TovuResult<TovuHttpReply> result) {
         const TovuHttpReply *reply = successfulReply(result, surveyLabels, completion);
         if (!reply)
             return;
@@ -410,14 +410,15 @@ void TovuNetworkService::submitResponse(std::string surveyId, TovuFeedbackReques
 
     TovuNetworkServicePrivate::Headers headers;
     d->addBearer(headers);
-    d->send("POST", *url, headers, QByteArray::fromStdString(*payload), [completion](TovuResult<TovuHttpReply> result) {
-        if (!successfulReply(result, submitLabels, completion))
-            return;
-        // An empty 2xx answer is a success too.
-        TovuLog::print("    ✅ Response submitted successfully");
-        TovuConsole::separator();
-        completion({});
-    });
+    d->send("POST", *url, headers, QByteArray::fromStdString(*payload),
+            [completion = std::move(completion)](TovuResult<TovuHttpReply> result) {
+                if (!successfulReply(result, submitLabels, completion))
+                    return;
+                // An empty 2xx answer is a success too.
+                TovuLog::print("    ✅ Response submitted successfully");
+                TovuConsole::separator();
+                completion({});
+            });
 }
 
 void TovuNetworkService::fetchLowestResponseSurveyId(std::vector<std::string> surveyIds,
@@ -438,23 +439,24 @@ void TovuNetworkService::fetchLowestResponseSurveyId(std::vector<std::string> su
 
     TovuNetworkServicePrivate::Headers headers;
     d->addBearer(headers);
-    d->send("POST", *url, headers, QByteArray::fromStdString(*body), [completion](TovuResult<TovuHttpReply> result) {
-        const TovuHttpReply *reply = successfulReply(result, lowestLabels, completion);
-        if (!reply)
-            return;
-        const TovuResult<LowestResponseAnswer> answer = tovuDecode<LowestResponseAnswer>(textOf(reply->body));
-        if (!answer) {
-            TovuConsole::line("    ❌ Decode error: ", answer.error().localizedDescription());
-            return completion(std::unexpected(answer.error()));
-        }
-        // The flag "success" and the text "message" are not consulted.
-        std::optional<std::string> surveyId;
-        if (answer->data)
-            surveyId = answer->data->surveyUUID ? answer->data->surveyUUID : answer->data->surveyId;
-        if (!surveyId)
-            return fail(completion, "surveyUUID not found in response");
-        TovuConsole::line("    ✅ Lowest response surveyId: ", *surveyId);
-        TovuConsole::separator();
-        completion(std::move(*surveyId));
-    });
+    d->send("POST", *url, headers, QByteArray::fromStdString(*body),
+            [completion = std::move(completion)](TovuResult<TovuHttpReply> result) {
+                const TovuHttpReply *reply = successfulReply(result, lowestLabels, completion);
+                if (!reply)
+                    return;
+                const TovuResult<LowestResponseAnswer> answer = tovuDecode<LowestResponseAnswer>(textOf(reply->body));
+                if (!answer) {
+                    TovuConsole::line("    ❌ Decode error: ", answer.error().localizedDescription());
+                    return completion(std::unexpected(answer.error()));
+                }
+                // The flag "success" and the text "message" are not consulted.
+                std::optional<std::string> surveyId;
+                if (answer->data)
+                    surveyId = answer->data->surveyUUID ? answer->data->surveyUUID : answer->data->surveyId;
+                if (!surveyId)
+                    return fail(completion, "surveyUUID not found in response");
+                TovuConsole::line("    ✅ Lowest response surveyId: ", *surveyId);
+                TovuConsole::separator();
+                completion(std::move(*surveyId));
+            });
 }

@@ -75,8 +75,8 @@ void TovuNetworkServicePrivate::addBearer(Headers &headers) const
         headers.emplace_back("Authorization", QByteArray::fromStdString("Bearer " + *bearerToken));
 }
 
-void TovuNetworkServicePrivate::send(const QByteArray &method, const QUrl &url, Headers headers, const QByteArray &body,
-                                     ReplyHandler handler)
+void TovuNetworkServicePrivate::send(const QByteArray &method, const QUrl &url, const Headers &headers,
+                                     const QByteArray &body, ReplyHandler handler)
 {
     QNetworkRequest request(url);
     request.setTransferTimeout(static_cast<int>(transferTimeout.count()));

@@ -36,7 +36,8 @@ public:
     /// Sends one request with the settings every call shares; `handler` gets
     /// the reply, or the transport error, on the service's thread. Never called
     /// once the service is gone.
-    void send(const QByteArray &method, const QUrl &url, Headers headers, const QByteArray &body, ReplyHandler handler);
+    void send(const QByteArray &method, const QUrl &url, const Headers &headers, const QByteArray &body,
+              ReplyHandler handler);
     /// "Authorization: Bearer …", when a token is held.
     void addBearer(Headers &headers) const;
 
