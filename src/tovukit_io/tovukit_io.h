@@ -34,6 +34,7 @@
 #include <tovukit_io/ui/TovuThemeEngine.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
+#include <tovukit_io/ui/kit/TovuBoxLook.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuMotion.h>

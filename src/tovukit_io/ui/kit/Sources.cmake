@@ -5,6 +5,7 @@ list(APPEND ui_headers
   kit/TovuPlatformColors.h)
 list(APPEND ui_sources
   kit/TovuBox.cpp
+  kit/TovuBoxLook.cpp
   kit/TovuButton.cpp
   kit/TovuKitPainting.cpp
   kit/TovuKitPainting.h
@@ -13,6 +14,7 @@ list(APPEND ui_sources
   kit/TovuSymbol.cpp)
 list(APPEND ui_headers
   kit/TovuBox.h
+  kit/TovuBoxLook.h
   kit/TovuButton.h
   kit/TovuLabels.h
   kit/TovuMotion.h

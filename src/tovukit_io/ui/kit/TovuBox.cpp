@@ -163,56 +163,46 @@ TovuBox::~TovuBox()
 
 QColor TovuBox::backgroundColor() const
 {
-    return m_backgroundColor.isValid() ? m_backgroundColor
-                                       : TovuPlatformColors::color(TovuPlatformColors::Role::systemBackground);
+    return m_look.resolvedBackground();
 }
 
 void TovuBox::setBackgroundColor(const QColor &color)
 {
-    if (m_backgroundColor == color)
-        return;
-    m_backgroundColor = color;
-    update();
+    if (m_look.setBackground(color))
+        update();
 }
 
 QColor TovuBox::borderColor() const
 {
-    return m_borderColor.isValid() ? m_borderColor : TovuPlatformColors::color(TovuPlatformColors::Role::gray4);
+    return m_look.resolvedBorder();
 }
 
 void TovuBox::setBorderColor(const QColor &color)
 {
-    if (m_borderColor == color)
-        return;
-    m_borderColor = color;
-    update();
+    if (m_look.setBorder(color))
+        update();
 }
 
 qreal TovuBox::borderWidth() const
 {
-    return m_borderWidth;
+    return m_look.borderWidth;
 }
 
 void TovuBox::setBorderWidth(qreal width)
 {
-    width = std::isfinite(width) ? std::max<qreal>(0, width) : 0;
-    if (m_borderWidth == width)
-        return;
-    m_borderWidth = width;
-    update();
+    if (m_look.setBorderWidth(width))
+        update();
 }
 
 qreal TovuBox::cornerRadius() const
 {
-    return m_cornerRadius;
+    return m_look.cornerRadius;
 }
 
 void TovuBox::setCornerRadius(qreal radius)
 {
-    radius = std::isfinite(radius) ? std::max<qreal>(0, radius) : 0;
-    if (m_cornerRadius == radius)
+    if (!m_look.setCornerRadius(radius))
         return;
-    m_cornerRadius = radius;
     updateMask();
     updateShadow();
     update();
@@ -295,7 +285,7 @@ void TovuBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    TovuKitPainting::paintBox(painter, rect(), backgroundColor(), borderColor(), m_borderWidth, m_cornerRadius);
+    m_look.paint(painter, rect());
 }
 
 void TovuBox::resizeEvent(QResizeEvent *event)
@@ -315,8 +305,8 @@ void TovuBox::changeEvent(QEvent *event)
 void TovuBox::updateMask()
 {
     // A square box needs no mask: the widget's own bounds already clip its children.
-    if (m_clipsToBounds && m_cornerRadius > 0)
-        setMask(TovuKitPainting::roundedRegion(size(), m_cornerRadius));
+    if (m_clipsToBounds && m_look.cornerRadius > 0)
+        setMask(TovuKitPainting::roundedRegion(size(), m_look.cornerRadius));
     else if (!mask().isEmpty())
         clearMask();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tovukit_io/ui/kit/TovuBoxLook.h>
+
 #include <QColor>
 #include <QPointF>
 #include <QWidget>
@@ -70,10 +72,7 @@ private:
     void updateMask();
     void updateShadow();
 
-    QColor m_backgroundColor;
-    QColor m_borderColor;
-    qreal m_borderWidth = 0;
-    qreal m_cornerRadius = 0;
+    TovuBoxLook m_look;
     bool m_clipsToBounds = false;
     bool m_hasShadow = false;
     QColor m_shadowColor = QColor(0, 0, 0, 15);

@@ -112,56 +112,46 @@ void TovuButton::syncTitle()
 
 QColor TovuButton::backgroundColor() const
 {
-    return m_backgroundColor.isValid() ? m_backgroundColor
-                                       : TovuPlatformColors::color(TovuPlatformColors::Role::systemBackground);
+    return m_look.resolvedBackground();
 }
 
 void TovuButton::setBackgroundColor(const QColor &color)
 {
-    if (m_backgroundColor == color)
-        return;
-    m_backgroundColor = color;
-    update();
+    if (m_look.setBackground(color))
+        update();
 }
 
 QColor TovuButton::borderColor() const
 {
-    return m_borderColor.isValid() ? m_borderColor : TovuPlatformColors::color(TovuPlatformColors::Role::gray4);
+    return m_look.resolvedBorder();
 }
 
 void TovuButton::setBorderColor(const QColor &color)
 {
-    if (m_borderColor == color)
-        return;
-    m_borderColor = color;
-    update();
+    if (m_look.setBorder(color))
+        update();
 }
 
 qreal TovuButton::borderWidth() const
 {
-    return m_borderWidth;
+    return m_look.borderWidth;
 }
 
 void TovuButton::setBorderWidth(qreal width)
 {
-    width = std::isfinite(width) ? std::max<qreal>(0, width) : 0;
-    if (m_borderWidth == width)
-        return;
-    m_borderWidth = width;
-    update();
+    if (m_look.setBorderWidth(width))
+        update();
 }
 
 qreal TovuButton::cornerRadius() const
 {
-    return m_cornerRadius;
+    return m_look.cornerRadius;
 }
 
 void TovuButton::setCornerRadius(qreal radius)
 {
-    radius = std::isfinite(radius) ? std::max<qreal>(0, radius) : 0;
-    if (m_cornerRadius == radius)
+    if (!m_look.setCornerRadius(radius))
         return;
-    m_cornerRadius = radius;
     update();
 }
 
@@ -421,7 +411,7 @@ void TovuButton::paintContent(QPainter &painter)
         painter.scale(m_scale, m_scale);
         painter.translate(-bounds.center());
     }
-    TovuKitPainting::paintBox(painter, bounds, backgroundColor(), borderColor(), m_borderWidth, m_cornerRadius);
+    m_look.paint(painter, bounds);
     if (m_accessory != Accessory::none)
         paintAccessory(painter, bounds);
 
@@ -434,7 +424,7 @@ void TovuButton::paintContent(QPainter &painter)
 
     // Keyboard users need to see where they are; a pointer press shows no ring.
     if (hasFocus() && m_keyboardFocus) {
-        const qreal radius = TovuKitPainting::effectiveRadius(bounds.size(), m_cornerRadius);
+        const qreal radius = TovuKitPainting::effectiveRadius(bounds.size(), m_look.cornerRadius);
         painter.strokePath(TovuKitPainting::roundedRect(bounds.adjusted(1, 1, -1, -1), std::max<qreal>(0, radius - 1)),
                            QPen(accessoryColor(), 2));
     }

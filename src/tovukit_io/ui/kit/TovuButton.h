@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tovukit_io/ui/kit/TovuBoxLook.h>
+
 #include <QAbstractButton>
 #include <QColor>
 #include <QMargins>
@@ -113,12 +115,9 @@ private:
     QMargins visualInsets() const;
     int textHeight(int width) const;
 
-    QColor m_backgroundColor;
-    QColor m_borderColor;
+    TovuBoxLook m_look;
     QColor m_titleColor;
     QColor m_accessoryColor;
-    qreal m_borderWidth = 0;
-    qreal m_cornerRadius = 0;
     Qt::Alignment m_titleAlignment = Qt::AlignHCenter;
     QMargins m_contentInsets = QMargins(16, 10, 16, 10);
     Accessory m_accessory = Accessory::none;
