@@ -5,7 +5,7 @@
 #include <tovukit_io/ui/TovuIntroView.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
-#include <tovukit_io/ui/kit/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
 
 #include <QApplication>
 #include <QImage>

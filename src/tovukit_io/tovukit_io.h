@@ -28,15 +28,16 @@
 #include <tovukit_io/network/TovuFeedbackRequestJson.h>
 #include <tovukit_io/network/TovuNetworkService.h>
 
-#include <tovukit_io/ui/TovuAppTheme.h>
+#include <tovukit_io/viewmodel/TovuAppTheme.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
+
 #include <tovukit_io/ui/TovuIntroView.h>
 #include <tovukit_io/ui/TovuThankYouView.h>
-#include <tovukit_io/ui/TovuThemeEngine.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuBoxLook.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
-#include <tovukit_io/ui/kit/TovuMotion.h>
-#include <tovukit_io/ui/kit/TovuPlatformColors.h>
 #include <tovukit_io/ui/kit/TovuSymbol.h>

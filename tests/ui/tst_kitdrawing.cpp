@@ -1,6 +1,6 @@
 // Drawn symbols and the motion clock.
 
-#include <tovukit_io/ui/kit/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/ui/kit/TovuSymbol.h>
 
 #include <QImage>

@@ -3,8 +3,8 @@
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
-#include <tovukit_io/ui/kit/TovuMotion.h>
-#include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include <QApplication>
 #include <QImage>

@@ -6,7 +6,7 @@
 #include <tovukit_io/ui/TovuThankYouView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
-#include <tovukit_io/ui/kit/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
 
 #include <QLabel>
 #include <QTest>

@@ -1,11 +1,11 @@
 // The bottom sheet: dimming, panel layout over a host, content swaps, skip and
 // dismissal, the 92 % limit and keyboard tracking.
 
-#include <tovukit_io/ui/TovuThemeEngine.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
-#include <tovukit_io/ui/kit/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
 
 #include <QLabel>
 #include <QPointer>

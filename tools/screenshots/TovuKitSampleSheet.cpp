@@ -3,7 +3,7 @@
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
-#include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/ui/kit/TovuSymbol.h>
 
 #include <QApplication>

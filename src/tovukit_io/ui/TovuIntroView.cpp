@@ -1,6 +1,6 @@
 #include <tovukit_io/ui/TovuIntroView.h>
 
-#include <tovukit_io/ui/TovuThemeEngine.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 

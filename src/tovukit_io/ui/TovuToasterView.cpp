@@ -1,10 +1,10 @@
 #include <tovukit_io/ui/TovuToasterView.h>
 
-#include <tovukit_io/ui/TovuThemeEngine.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
-#include <tovukit_io/ui/kit/TovuMotion.h>
-#include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include <QEvent>
 #include <QGraphicsOpacityEffect>

@@ -1,6 +1,6 @@
 #include <tovukit_io/ui/kit/TovuBox.h>
 
-#include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include "TovuKitPainting.h"
 

@@ -1,7 +1,7 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 
-#include <tovukit_io/ui/kit/TovuMotion.h>
-#include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/ui/kit/TovuSymbol.h>
 
 #include "TovuKitPainting.h"

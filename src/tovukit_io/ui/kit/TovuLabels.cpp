@@ -11,11 +11,7 @@ QLabel *TovuLabels::plain(const QString &text, const QFont &font, const QColor &
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setFont(font);
-    if (color.isValid()) {
-        QPalette palette = label->palette();
-        palette.setColor(QPalette::WindowText, color);
-        label->setPalette(palette);
-    }
+    setColor(label, color);
     setText(label, text);
     return label;
 }
@@ -26,4 +22,18 @@ void TovuLabels::setText(QLabel *label, const QString &text)
         return;
     label->setText(text);
     label->setAccessibleName(text);
+}
+
+void TovuLabels::setColor(QLabel *label, const QColor &color)
+{
+    if (!label)
+        return;
+    if (!color.isValid()) {
+        // An empty palette sets nothing: the label inherits every role again.
+        label->setPalette(QPalette());
+        return;
+    }
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, color);
+    label->setPalette(palette);
 }

@@ -21,6 +21,8 @@ public:
     static QLabel *plain(const QString &text, const QFont &font, const QColor &color, QWidget *parent = nullptr);
     /// Changes a label's text and its accessible name together.
     static void setText(QLabel *label, const QString &text);
+    /// Changes a label's text colour; an invalid `color` goes back to the inherited one.
+    static void setColor(QLabel *label, const QColor &color);
 
     TovuLabels() = delete;
 };

@@ -1,4 +1,4 @@
-#include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include <QGuiApplication>
 #include <QPalette>

@@ -1,14 +1,13 @@
-#include <tovukit_io/ui/TovuThemeEngine.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
-#include <tovukit_io/ui/kit/TovuBox.h>
-#include <tovukit_io/ui/kit/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
-#include <QApplication>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QPalette>
 #include <QString>
 #include <QTextBoundaryFinder>
-#include <QWidget>
+#include <QVariant>
 
 #include <cstdint>
 #include <utility>
@@ -65,6 +64,24 @@ std::optional<QColor> themedColor(const std::optional<TovuAppTheme> &app, std::o
     return std::nullopt;
 }
 
+// A host's own accent is a Highlight it set on purpose (on the window or the whole
+// application); the style's stock highlight is not one.
+std::optional<QColor> hostAccent(const QPalette &palette)
+{
+    if (palette.isBrushSet(QPalette::Active, QPalette::Highlight))
+        return palette.color(QPalette::Active, QPalette::Highlight);
+    return std::nullopt;
+}
+
+// The palette of whatever has keyboard focus: a widget or a Qt Quick item, read
+// through the property system so this layer needs no widgets.
+QPalette focusPalette()
+{
+    const QObject *focus = QGuiApplication::focusObject();
+    const QVariant palette = focus ? focus->property("palette") : QVariant();
+    return palette.canConvert<QPalette>() ? palette.value<QPalette>() : QGuiApplication::palette();
+}
+
 bool isInstalledFamily(const QString &family)
 {
     return QFontDatabase::families().contains(family, Qt::CaseInsensitive);
@@ -109,11 +126,18 @@ const std::optional<TovuAppTheme> &TovuThemeEngine::appTheme() const
 
 QColor TovuThemeEngine::primaryColor() const
 {
+    return primaryColor(focusPalette());
+}
+
+QColor TovuThemeEngine::primaryColor(const QPalette &context) const
+{
     if (auto color = themedColor(m_appTheme, &TovuAppTheme::primaryColor, m_apiTheme, &TovuTheme::primaryColor))
         return *color;
-    // The accent the host's active window already uses, so the survey blends in.
-    if (const QWidget *window = QApplication::activeWindow())
-        return window->palette().color(QPalette::Active, QPalette::Highlight);
+    // The accent the host already uses, so the survey blends in.
+    if (auto accent = hostAccent(context))
+        return *accent;
+    if (auto accent = hostAccent(QGuiApplication::palette()))
+        return *accent;
     return TovuPlatformColors::color(TovuPlatformColors::Role::blue);
 }
 
@@ -172,12 +196,12 @@ qreal TovuThemeEngine::cornerRadius() const
     return defaultCornerRadius;
 }
 
-void TovuThemeEngine::applyCornerRadius(TovuBox *box) const
+void TovuThemeEngine::applyCornerRadius(QObject *view) const
 {
-    if (!box)
+    if (!view)
         return;
-    box->setCornerRadius(cornerRadius());
-    box->setClipsToBounds(true);
+    view->setProperty("cornerRadius", cornerRadius());
+    view->setProperty("clipsToBounds", true);
 }
 
 std::optional<QColor> TovuThemeEngine::colorFromHex(std::string_view text)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <tovukit_io/model/TovuSurvey.h>
-#include <tovukit_io/ui/TovuAppTheme.h>
+#include <tovukit_io/viewmodel/TovuAppTheme.h>
 
 #include <QColor>
 #include <QFont>
@@ -9,7 +9,8 @@
 #include <optional>
 #include <string_view>
 
-class TovuBox;
+class QObject;
+class QPalette;
 
 /// Where every native view gets its colours, fonts and corner radius.
 ///
@@ -22,7 +23,7 @@ class TovuBox;
 /// \code
 /// TovuThemeEngine &theme = TovuThemeEngine::shared();
 /// theme.configureAppTheme(QColor(0x6A, 0x1B, 0x9A));
-/// title->setFont(theme.font(18, QFont::Bold));
+/// QFont title = theme.font(18, QFont::Bold);
 /// \endcode
 class TovuThemeEngine
 {
@@ -43,8 +44,12 @@ public:
     void configureAppTheme(QColor primaryColor);
     const std::optional<TovuAppTheme> &appTheme() const;
 
-    /// Default: the active window's highlight colour, else the platform blue.
+    /// Default: the accent the focused window's palette sets, else the platform blue.
     QColor primaryColor() const;
+    /// The accent for a page shown with `context`, the palette it inherits from its
+    /// host window: the app's, else the survey's, else the Highlight the host set
+    /// explicitly, else the platform blue of the current appearance.
+    QColor primaryColor(const QPalette &context) const;
     /// Default: the platform's system background.
     QColor backgroundColor() const;
     /// Default: the platform's label colour.
@@ -57,8 +62,9 @@ public:
 
     /// The app's radius, else the survey's, else 12.
     qreal cornerRadius() const;
-    /// Gives `box` the resolved radius and makes it clip to its bounds.
-    void applyCornerRadius(TovuBox *box) const;
+    /// Gives `view` the resolved radius and makes it clip to its bounds, through its
+    /// `cornerRadius` and `clipsToBounds` properties (a kit box, or a Qt Quick item).
+    void applyCornerRadius(QObject *view) const;
 
     /// Colour text, six (RRGGBB) or eight (RRGGBBAA) characters after an optional
     /// '#', to an sRGB colour; any other length gives none. Lenient on purpose:

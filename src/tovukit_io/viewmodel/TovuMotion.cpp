@@ -1,4 +1,4 @@
-#include <tovukit_io/ui/kit/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
 
 #include <QMutex>
 #include <QPointF>
