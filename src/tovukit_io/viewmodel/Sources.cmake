@@ -8,3 +8,17 @@ list(APPEND viewmodel_headers
   TovuMotion.h
   TovuPlatformColors.h
   TovuThemeEngine.h)
+
+# One behaviour model per page type.
+list(APPEND viewmodel_sources
+  TovuDropdownQuestionViewModel.cpp
+  TovuMultipleChoiceQuestionViewModel.cpp
+  TovuQuestionViewModel.cpp
+  TovuSingleChoiceQuestionViewModel.cpp
+  TovuTextBoxQuestionViewModel.cpp)
+list(APPEND viewmodel_headers
+  TovuDropdownQuestionViewModel.h
+  TovuMultipleChoiceQuestionViewModel.h
+  TovuQuestionViewModel.h
+  TovuSingleChoiceQuestionViewModel.h
+  TovuTextBoxQuestionViewModel.h)
