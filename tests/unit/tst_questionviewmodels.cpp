@@ -5,12 +5,17 @@
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
+#include <QGuiApplication>
+#include <QPalette>
 #include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -59,7 +64,41 @@ bool isUpperCaseUuid(const std::string &text)
     return uuid.match(QString::fromStdString(text)).hasMatch();
 }
 
+// The layer serves Qt Quick apps too, which run a QGuiApplication where no widget can exist.
+class GuiApplicationOnly : public testing::Environment
+{
+public:
+    void SetUp() override
+    {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        m_application = std::make_unique<QGuiApplication>(m_argc, m_argv.data());
+    }
+    void TearDown() override { m_application.reset(); }
+
+private:
+    int m_argc = 1;
+    char m_name[5] = "test";
+    std::array<char *, 2> m_argv{m_name, nullptr};
+    std::unique_ptr<QGuiApplication> m_application;
+};
+
+const testing::Environment *const guiApplication = testing::AddGlobalTestEnvironment(new GuiApplicationOnly);
+
 } // namespace
+
+TEST(ViewModelLayer, ThemeAndModelsWorkWithoutWidgets)
+{
+    ASSERT_NE(qobject_cast<QGuiApplication *>(QCoreApplication::instance()), nullptr);
+    EXPECT_FALSE(QCoreApplication::instance()->inherits("QApplication"));
+    TovuThemeEngine engine;
+    EXPECT_EQ(engine.font(16, QFont::Bold).pixelSize(), 16);
+    EXPECT_EQ(engine.primaryColor(), QColor(0x00, 0x7A, 0xFF)); // nothing focused, no theme: the platform blue
+    TovuAppTheme app;
+    app.primaryColor = QColor(Qt::red);
+    engine.configureAppTheme(app);
+    EXPECT_EQ(engine.primaryColor(QGuiApplication::palette()), QColor(Qt::red));
+}
 
 TEST(SingleChoiceViewModel, ReportsTheLastChoiceOnlyWhenSubmitted)
 {
