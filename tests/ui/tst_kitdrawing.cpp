@@ -1,7 +1,7 @@
 // Drawn symbols and the motion clock.
 
-#include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/ui/kit/TovuSymbol.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
 
 #include <QImage>
 #include <QPainter>

@@ -3,7 +3,9 @@
 class QWidget;
 
 /// A sheet of widget-kit samples for people to look at: boxes, buttons with
-/// their marks, a right-to-left row, a wrapped option and every symbol.
+/// their marks, a right-to-left row, a wrapped option, every symbol, text inputs,
+/// symbol buttons, emoji faces, the dropdown chevron, equal-width and scrolling
+/// rows, fitted captions and hairlines.
 class TovuKitSampleSheet
 {
 public:

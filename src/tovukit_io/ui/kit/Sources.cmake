@@ -1,15 +1,39 @@
-# The widget kit: rounded boxes, buttons, labels, symbols.
+# The widget kit: rounded boxes, buttons, labels, symbols, text inputs and rows.
 list(APPEND ui_sources
   kit/TovuBox.cpp
   kit/TovuBoxLook.cpp
   kit/TovuButton.cpp
+  kit/TovuChevron.cpp
+  kit/TovuEmoji.cpp
+  kit/TovuEqualWidthLayout.cpp
+  kit/TovuFitLabel.cpp
+  kit/TovuHairline.cpp
+  kit/TovuInputFrame.cpp
+  kit/TovuInputFrame.h
+  kit/TovuKitAnimator.cpp
+  kit/TovuKitAnimator.h
   kit/TovuKitPainting.cpp
   kit/TovuKitPainting.h
   kit/TovuLabels.cpp
-  kit/TovuSymbol.cpp)
+  kit/TovuScrollStrip.cpp
+  kit/TovuShake.cpp
+  kit/TovuSymbol.cpp
+  kit/TovuSymbolButton.cpp
+  kit/TovuTextArea.cpp
+  kit/TovuTextField.cpp)
 list(APPEND ui_headers
   kit/TovuBox.h
   kit/TovuBoxLook.h
   kit/TovuButton.h
+  kit/TovuChevron.h
+  kit/TovuEmoji.h
+  kit/TovuEqualWidthLayout.h
+  kit/TovuFitLabel.h
+  kit/TovuHairline.h
   kit/TovuLabels.h
-  kit/TovuSymbol.h)
+  kit/TovuScrollStrip.h
+  kit/TovuShake.h
+  kit/TovuSymbol.h
+  kit/TovuSymbolButton.h
+  kit/TovuTextArea.h
+  kit/TovuTextField.h)

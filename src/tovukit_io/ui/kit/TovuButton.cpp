@@ -1,9 +1,10 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 
+#include <tovukit_io/ui/kit/TovuSymbol.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
-#include <tovukit_io/ui/kit/TovuSymbol.h>
 
+#include "TovuKitAnimator.h"
 #include "TovuKitPainting.h"
 
 #include <QEvent>
@@ -12,7 +13,6 @@
 #include <QGraphicsEffect>
 #include <QKeySequence>
 #include <QPainter>
-#include <QPropertyAnimation>
 #include <QStyle>
 
 #include <algorithm>
@@ -71,14 +71,6 @@ TovuButton::TovuButton(const QString &title, QWidget *parent)
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setText(title);
-    connect(this, &QAbstractButton::pressed, this, [this] {
-        if (m_pressAnimationEnabled)
-            animateScale(0.96, 0.1);
-    });
-    connect(this, &QAbstractButton::released, this, [this] {
-        if (m_pressAnimationEnabled)
-            animateScale(1.0, 0.15);
-    });
 }
 
 TovuButton::~TovuButton()
@@ -280,37 +272,44 @@ void TovuButton::setScale(qreal scale)
     update();
 }
 
-bool TovuButton::pressAnimationEnabled() const
+void TovuButton::tapScale(qreal to, qreal seconds)
 {
-    return m_pressAnimationEnabled;
+    if (!m_tapAnimator)
+        m_tapAnimator = std::make_unique<TovuKitAnimator>(this, [this](qreal value) { setScale(value); });
+    if (!std::isfinite(to))
+        to = 1;
+    m_tapAnimator->run({m_scale, to, 1.0}, seconds, TovuMotion::easeOut());
 }
 
-void TovuButton::setPressAnimationEnabled(bool enabled)
+bool TovuButton::isTapScaling() const
 {
-    if (m_pressAnimationEnabled == enabled)
-        return;
-    m_pressAnimationEnabled = enabled;
-    if (!enabled && m_scaleAnimation && m_scaleAnimation->state() == QAbstractAnimation::Running) {
-        m_scaleAnimation->stop();
-        setScale(1);
-    }
+    return m_tapAnimator && m_tapAnimator->isRunning();
 }
 
-void TovuButton::animateScale(qreal target, qreal seconds)
+qreal TovuButton::opacity() const
 {
-    if (!m_scaleAnimation)
-        m_scaleAnimation = new QPropertyAnimation(this, "scale", this);
-    m_scaleAnimation->stop();
-    const int duration = TovuMotion::durationMs(seconds);
-    if (duration == 0) {
-        setScale(target);
+    return m_opacity;
+}
+
+void TovuButton::setOpacity(qreal opacity)
+{
+    if (!std::isfinite(opacity))
         return;
-    }
-    m_scaleAnimation->setDuration(duration);
-    m_scaleAnimation->setStartValue(m_scale);
-    m_scaleAnimation->setEndValue(target);
-    m_scaleAnimation->setEasingCurve(TovuMotion::easeOut());
-    m_scaleAnimation->start();
+    opacity = std::clamp<qreal>(opacity, 0, 1);
+    if (m_opacity == opacity)
+        return;
+    m_opacity = opacity;
+    update();
+}
+
+int TovuButton::tag() const
+{
+    return m_tag;
+}
+
+void TovuButton::setTag(int tag)
+{
+    m_tag = tag;
 }
 
 void TovuButton::updateScaleEffect()
@@ -403,8 +402,7 @@ void TovuButton::paintContent(QPainter &painter)
 {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::TextAntialiasing);
-    if (!isEnabled())
-        painter.setOpacity(0.5);
+    painter.setOpacity(isEnabled() ? m_opacity : m_opacity * 0.5);
     const QRectF bounds = rect();
     if (m_scale != 1) {
         painter.translate(bounds.center());
@@ -414,13 +412,9 @@ void TovuButton::paintContent(QPainter &painter)
     m_look.paint(painter, bounds);
     if (m_accessory != Accessory::none)
         paintAccessory(painter, bounds);
-
-    if (!text().isEmpty()) {
-        painter.setFont(font());
-        painter.setPen(titleColor());
-        painter.setLayoutDirection(layoutDirection());
-        painter.drawText(bounds.marginsRemoved(QMarginsF(visualInsets())), textFlags(), text());
-    }
+    painter.save();
+    paintLabel(painter, bounds.marginsRemoved(QMarginsF(visualInsets())));
+    painter.restore();
 
     // Keyboard users need to see where they are; a pointer press shows no ring.
     if (hasFocus() && m_keyboardFocus) {
@@ -428,6 +422,16 @@ void TovuButton::paintContent(QPainter &painter)
         painter.strokePath(TovuKitPainting::roundedRect(bounds.adjusted(1, 1, -1, -1), std::max<qreal>(0, radius - 1)),
                            QPen(accessoryColor(), 2));
     }
+}
+
+void TovuButton::paintLabel(QPainter &painter, const QRectF &contentRect)
+{
+    if (text().isEmpty())
+        return;
+    painter.setFont(font());
+    painter.setPen(titleColor());
+    painter.setLayoutDirection(layoutDirection());
+    painter.drawText(contentRect, textFlags(), text());
 }
 
 void TovuButton::paintAccessory(QPainter &painter, const QRectF &bounds)
@@ -474,10 +478,6 @@ void TovuButton::changeEvent(QEvent *event)
     case QEvent::PaletteChange:
     case QEvent::ApplicationPaletteChange:
         update();
-        break;
-    case QEvent::EnabledChange:
-        if (!isEnabled() && m_pressAnimationEnabled)
-            animateScale(1.0, 0);
         break;
     default:
         break;

@@ -6,7 +6,9 @@
 #include <QColor>
 #include <QMargins>
 
-class QPropertyAnimation;
+#include <memory>
+
+class TovuKitAnimator;
 
 /// A button with the look of a TovuBox: background, border and corner radius, a title
 /// in the widget's font and `titleColor` that wraps onto several lines when narrow, and
@@ -22,8 +24,14 @@ class QPropertyAnimation;
 /// row->setCheckable(true);
 /// row->setTitleAlignment(Qt::AlignLeading);
 /// row->setContentInsets(QMargins(48, 14, 16, 14));
-/// connect(row, &QAbstractButton::clicked, view, [=] { ... });
+/// connect(row, &QAbstractButton::clicked, view, [=] {
+///     row->tapScale(0.97, 0.08); // pressing alone never animates; views choose the bump
+///     ...
+/// });
 /// \endcode
+///
+/// Subclasses that show something other than a title (a symbol, say) override
+/// paintLabel(); box, scale, opacity, accessory and focus ring stay the base's.
 class TovuButton : public QAbstractButton
 {
     Q_OBJECT
@@ -39,7 +47,8 @@ class TovuButton : public QAbstractButton
     Q_PROPERTY(qreal accessorySize READ accessorySize WRITE setAccessorySize)
     Q_PROPERTY(qreal accessoryInset READ accessoryInset WRITE setAccessoryInset)
     Q_PROPERTY(qreal scale READ scale WRITE setScale)
-    Q_PROPERTY(bool pressAnimationEnabled READ pressAnimationEnabled WRITE setPressAnimationEnabled)
+    Q_PROPERTY(qreal opacity READ opacity WRITE setOpacity)
+    Q_PROPERTY(int tag READ tag WRITE setTag)
 
 public:
     enum class Accessory { none, radio, checkbox };
@@ -87,10 +96,20 @@ public:
     /// bounds, as a bump animation expects.
     qreal scale() const;
     void setScale(qreal scale);
-    /// When on (the default), pressing shrinks the button to 0.96 and releasing brings it
-    /// back to 1. Views that animate `scale` themselves turn this off.
-    bool pressAnimationEnabled() const;
-    void setPressAnimationEnabled(bool enabled);
+    /// Animates `scale` from where it is to `to` over `seconds`, then back to 1 over
+    /// `seconds`, easing out (motion time, see TovuMotion). With motion off it ends on 1 at
+    /// once; a second call while one runs starts again from the current scale.
+    void tapScale(qreal to, qreal seconds);
+    bool isTapScaling() const;
+
+    /// Opacity of everything the button paints, 0 to 1; 1 by default. A disabled button
+    /// paints at half of it. Painted, not an effect, so it combines with `scale`.
+    qreal opacity() const;
+    void setOpacity(qreal opacity);
+
+    /// A number the view gives the button (a score, a column); -1 by default.
+    int tag() const;
+    void setTag(int tag);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -98,6 +117,11 @@ public:
     int heightForWidth(int width) const override;
 
 protected:
+    /// Draws what the button shows inside `contentRect` (the bounds less the content
+    /// insets, mirrored right to left): the title by default. The painter is already
+    /// scaled, faded and antialiased; it need not be restored.
+    virtual void paintLabel(QPainter &painter, const QRectF &contentRect);
+
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -109,7 +133,6 @@ private:
     void paintContent(QPainter &painter);
     void paintAccessory(QPainter &painter, const QRectF &bounds);
     void syncTitle();
-    void animateScale(qreal target, qreal seconds);
     void updateScaleEffect();
     int textFlags() const;
     QMargins visualInsets() const;
@@ -124,9 +147,10 @@ private:
     qreal m_accessorySize = -1;
     qreal m_accessoryInset = 16;
     qreal m_scale = 1;
-    bool m_pressAnimationEnabled = true;
+    qreal m_opacity = 1;
+    int m_tag = -1;
     bool m_keyboardFocus = false;
     QString m_syncedTitle;
     QString m_autoAccessibleName;
-    QPropertyAnimation *m_scaleAnimation = nullptr;
+    std::unique_ptr<TovuKitAnimator> m_tapAnimator;
 };

@@ -1,0 +1,105 @@
+#include <tovukit_io/ui/kit/TovuFitLabel.h>
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+qreal textWidth(const QFont &font, const QString &text)
+{
+    return QFontMetricsF(font).size(Qt::TextSingleLine, text).width();
+}
+
+// `font` at `scale` of its size, in the unit it was given in.
+QFont scaled(const QFont &font, qreal scale)
+{
+    QFont result = font;
+    if (font.pixelSize() > 0)
+        result.setPixelSize(std::max(1, static_cast<int>(std::floor(font.pixelSize() * scale))));
+    else
+        result.setPointSizeF(std::max<qreal>(0.5, font.pointSizeF() * scale));
+    return result;
+}
+
+} // namespace
+
+TovuFitLabel::TovuFitLabel(const QString &text, QWidget *parent)
+    : QLabel(parent)
+{
+    // Before any text: the automatic format could take survey text for markup.
+    setTextFormat(Qt::PlainText);
+    setWordWrap(false);
+    setAlignment(Qt::AlignCenter);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setText(text);
+}
+
+void TovuFitLabel::setText(const QString &text)
+{
+    QLabel::setText(text);
+    setAccessibleName(text);
+    update();
+}
+
+qreal TovuFitLabel::minimumScaleFactor() const
+{
+    return m_minimumScaleFactor;
+}
+
+void TovuFitLabel::setMinimumScaleFactor(qreal factor)
+{
+    if (!std::isfinite(factor))
+        return;
+    factor = std::clamp<qreal>(factor, 0.05, 1);
+    if (m_minimumScaleFactor == factor)
+        return;
+    m_minimumScaleFactor = factor;
+    update();
+}
+
+QFont TovuFitLabel::fittedFont() const
+{
+    const QFont natural = font();
+    const qreal available = contentsRect().width();
+    const qreal width = textWidth(natural, text());
+    if (width <= available || width <= 0)
+        return natural;
+    // Glyph advances do not shrink exactly in proportion (and pixel sizes are whole):
+    // step down until it fits or the smallest allowed size is reached.
+    qreal scale = std::max(m_minimumScaleFactor, available / width);
+    QFont candidate = scaled(natural, scale);
+    while (textWidth(candidate, text()) > available && scale > m_minimumScaleFactor) {
+        scale = std::max(m_minimumScaleFactor, scale * 0.95);
+        candidate = scaled(natural, scale);
+    }
+    return candidate;
+}
+
+QSize TovuFitLabel::sizeHint() const
+{
+    const QFontMetrics metrics(font());
+    const QMargins margins = contentsMargins();
+    return QSize(metrics.height() + margins.left() + margins.right(),
+                 metrics.height() + margins.top() + margins.bottom());
+}
+
+QSize TovuFitLabel::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void TovuFitLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    drawFrame(&painter);
+    const QRect area = contentsRect();
+    const QFont fitted = fittedFont();
+    painter.setFont(fitted);
+    const QString shown = QFontMetrics(fitted).elidedText(text(), Qt::ElideRight, area.width(), Qt::TextSingleLine);
+    const auto flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::TextSingleLine;
+    style()->drawItemText(&painter, area, flags, palette(), isEnabled(), shown, foregroundRole());
+}

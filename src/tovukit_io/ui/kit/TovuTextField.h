@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QColor>
+#include <QLineEdit>
+
+#include <memory>
+
+class TovuInputFrame;
+
+/// A one-line text input with a painted rounded frame: radius 10, a 1.5 border in
+/// system gray 4 over the system background, 14 points of padding left and right, 48
+/// high. On focus the border turns to `focusBorderColor` at width 2 over 0.2 s and any
+/// error is cleared; on blur it goes back. `hasError` paints the border red.
+///
+/// Text and placeholder take the platform label and secondary label colours and follow
+/// light and dark as the palette changes. What is typed is kept as typed: no validator,
+/// no trimming, no length limit. Font and input-method hints are the caller's.
+///
+/// \code
+/// auto *email = new TovuTextField(this);
+/// email->setFont(theme.font(15, QFont::Normal));
+/// email->setPlaceholderText(QStringLiteral("Email\u2026"));
+/// email->setInputMethodHints(Qt::ImhEmailCharactersOnly);
+/// connect(email, &TovuTextField::focused, this, [=] { scrollToField(email); });
+/// \endcode
+class TovuTextField : public QLineEdit
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QColor borderColor READ borderColor WRITE setBorderColor)
+    Q_PROPERTY(qreal borderWidth READ borderWidth WRITE setBorderWidth)
+    Q_PROPERTY(qreal cornerRadius READ cornerRadius WRITE setCornerRadius)
+    Q_PROPERTY(QColor focusBorderColor READ focusBorderColor WRITE setFocusBorderColor)
+    Q_PROPERTY(bool hasError READ hasError WRITE setHasError)
+    Q_PROPERTY(QColor currentBorderColor READ currentBorderColor)
+    Q_PROPERTY(qreal currentBorderWidth READ currentBorderWidth)
+
+public:
+    explicit TovuTextField(QWidget *parent = nullptr);
+    ~TovuTextField() override;
+
+    /// Unset: the platform's system background.
+    QColor backgroundColor() const;
+    void setBackgroundColor(const QColor &color);
+    /// The resting border; unset: system gray 4.
+    QColor borderColor() const;
+    void setBorderColor(const QColor &color);
+    /// The resting border width; 1.5 by default.
+    qreal borderWidth() const;
+    void setBorderWidth(qreal width);
+    qreal cornerRadius() const;
+    void setCornerRadius(qreal radius);
+    /// The border while focused; unset: the platform blue.
+    QColor focusBorderColor() const;
+    void setFocusBorderColor(const QColor &color);
+    bool hasError() const;
+    void setHasError(bool error);
+    /// The border as painted at this moment (resting, focused, red, or on the way).
+    QColor currentBorderColor() const;
+    qreal currentBorderWidth() const;
+
+Q_SIGNALS:
+    void focused();
+    void blurred();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    std::unique_ptr<TovuInputFrame> m_frame;
+};
