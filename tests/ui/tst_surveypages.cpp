@@ -1,17 +1,23 @@
-// The intro and thank-you pages: texts and their defaults, the start button,
-// and the thank-you redirect.
+// The intro and thank-you pages: texts and their defaults, the start button and
+// its accent, the thank-you check mark, entrance and redirect.
 
 #include <tovukit_io/platform/TovuUrlOpener.h>
 #include <tovukit_io/ui/TovuIntroView.h>
 #include <tovukit_io/ui/TovuThankYouView.h>
+#include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include <QLabel>
+#include <QLayout>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -29,6 +35,24 @@ TovuQuestion thankYouQuestion(std::optional<std::string> subtitle, std::optional
                         .title = "Thanks a lot!",
                         .subtitle = std::move(subtitle),
                         .redirectURL = std::move(redirect)};
+}
+
+// How wide the check mark is painted, in logical pixels: the span of the pixels
+// clearly greener than the white panel (its faint disc does not count).
+qreal checkMarkWidth(const QImage &image)
+{
+    int left = image.width();
+    int right = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (pixel.green() - pixel.red() > 40) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+            }
+        }
+    }
+    return (right - left + 1) / image.devicePixelRatio();
 }
 
 } // namespace
@@ -72,7 +96,9 @@ TEST_F(SurveyPages, ThankYouTextsAndDefaults)
     EXPECT_EQ(plain.iconContainer()->size(), QSize(88, 88));
     EXPECT_EQ(plain.iconContainer()->cornerRadius(), 44);
     EXPECT_EQ(plain.iconContainer()->backgroundColor(), QColor::fromRgbF(0.18f, 0.8f, 0.44f, 0.12f));
-    EXPECT_FALSE(plain.iconView()->pixmap().isNull());
+    const QPixmap icon = plain.iconView()->pixmap();
+    EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(plain.iconView()->size())); // fitted to its view
+    EXPECT_GT(qAlpha(icon.toImage().pixel(1, icon.height() / 2)), 0); // the symbol reaches its edge
     EXPECT_EQ(plain.entranceProgress(), 1.0); // motion off: in place at once
 
     TovuThankYouView withSubtitle(thankYouQuestion("See you soon", std::nullopt));
@@ -99,12 +125,71 @@ TEST_F(SurveyPages, ThankYouRedirectsOnlyToWebAddressesAfterTheDelay)
     EXPECT_EQ(opener.openedUrls().front(), QUrl(QStringLiteral("https://shop.example.com/thanks")));
 }
 
-TEST_F(SurveyPages, ThankYouEntranceAnimatesFromSmallAndTransparent)
+TEST_F(SurveyPages, IntroAccentIsTheHostWindowsHighlight)
 {
-    TovuMotion::setDurationScale(1);
-    TovuThankYouView page(std::nullopt);
-    EXPECT_EQ(page.entranceProgress(), 0.0);
-    QTest::qWait(100);
-    EXPECT_GT(page.entranceProgress(), 0.0);
-    EXPECT_TRUE(QTest::qWaitFor([&page] { return page.entranceProgress() == 1.0; }, 2000));
+    QWidget active; // another window has focus, with an accent of its own
+    QPalette green = active.palette();
+    green.setColor(QPalette::Highlight, Qt::green);
+    active.setPalette(green);
+    active.setFocusPolicy(Qt::StrongFocus);
+    active.show();
+    active.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&active));
+    active.setFocus();
+
+    QWidget purpleHost;
+    QPalette purple = purpleHost.palette();
+    purple.setColor(QPalette::Highlight, QColor(0x80, 0x00, 0x80));
+    purpleHost.setPalette(purple);
+    QWidget plainHost;
+    const QColor blue = TovuPlatformColors::color(TovuPlatformColors::Role::blue);
+    for (const auto &[host, accent] : {std::pair{&purpleHost, QColor(0x80, 0x00, 0x80)}, std::pair{&plainHost, blue}}) {
+        host->resize(390, 844);
+        host->show();
+        auto *intro = new TovuIntroView(TovuSurveyPage{.enabled = true});
+        auto *sheet = new TovuToasterView(std::nullopt);
+        sheet->setQuestionView(intro);
+        sheet->present(host);
+        EXPECT_EQ(intro->startButton()->backgroundColor(), accent);
+        sheet->dismiss();
+    }
+}
+
+TEST_F(SurveyPages, ThankYouEntranceZoomsWithoutMovingTheLayout)
+{
+    QWidget host;
+    host.resize(390, 844);
+    host.show();
+    TovuMotion::setDurationScale(6); // a slow entrance, to look at frames on the way
+    auto *page = new TovuThankYouView(std::nullopt);
+    EXPECT_EQ(page->entranceProgress(), 0.0);
+    EXPECT_EQ(page->entranceScale(), 0.85);
+    TovuMotion::setDurationScale(0); // the sheet itself appears at once
+    auto *sheet = new TovuToasterView(std::nullopt);
+    sheet->setQuestionView(page);
+    sheet->present(&host);
+
+    const int panelHeight = sheet->containerView()->height();
+    const QSize size = page->size();
+    const QSize hint = page->sizeHint();
+    const QMargins margins = page->layout()->contentsMargins();
+    bool still = true;
+    int zoomedFrames = 0;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            still = still && sheet->containerView()->height() == panelHeight && page->size() == size
+                && page->sizeHint() == hint && page->layout()->contentsMargins() == margins;
+            const qreal scale = page->entranceScale();
+            if (zoomedFrames == 0 && scale > 0.89 && scale < 0.93) {
+                const QImage frame = host.grab(QRect(page->mapTo(&host, QPoint()), page->size())).toImage();
+                EXPECT_NEAR(checkMarkWidth(frame), 56 * scale, 2.0);
+                ++zoomedFrames;
+            }
+            return page->entranceProgress() == 1.0;
+        },
+        10000));
+    EXPECT_TRUE(still) << "the layout moved during the entrance";
+    EXPECT_EQ(zoomedFrames, 1);
+    EXPECT_EQ(page->entranceScale(), 1.0);
+    sheet->dismiss();
 }

@@ -1,9 +1,9 @@
 // How the theme engine resolves colours, fonts and corner radius from the app's
 // theme, the survey's theme and the platform, and how it reads colour text.
 
-#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <QApplication>
 #include <QFontDatabase>

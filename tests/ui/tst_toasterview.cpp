@@ -1,18 +1,25 @@
 // The bottom sheet: dimming, panel layout over a host, content swaps, skip and
-// dismissal, the 92 % limit and keyboard tracking.
+// dismissal, the 92 % limit, keyboard tracking, the host's input while the sheet
+// is up, and colours across a palette switch.
 
-#include <tovukit_io/viewmodel/TovuThemeEngine.h>
+#include <tovukit_io/ui/TovuIntroView.h>
+#include <tovukit_io/ui/TovuThankYouView.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
+#include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -41,7 +48,31 @@ protected:
         return TovuSurvey{.id = "s", .name = "n", .theme = TovuTheme{.transparency = transparency}};
     }
 
+    // Makes the host the active window, so focus and key events behave as for a user.
+    void activateHost()
+    {
+        host.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
+    }
+
     QWidget host;
+};
+
+// Counts the mouse events that reach the object it watches.
+class MouseCounter : public QObject
+{
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease
+            || type == QEvent::MouseButtonDblClick)
+            ++count;
+        return false;
+    }
 };
 
 } // namespace
@@ -168,5 +199,115 @@ TEST_F(ToasterView, KeyboardLiftsThePanelAndLowersItAgain)
     sheet->keyboardWillShow(QRectF(0, 0, 390, 250), 200);
     EXPECT_LT(sheet->containerBottomOffset(), 250.0); // on its way up
     EXPECT_TRUE(QTest::qWaitFor([sheet] { return sheet->containerBottomOffset() == 250.0; }, 2000));
+    sheet->dismiss();
+}
+
+TEST_F(ToasterView, KeyboardKeepsTheFocusedFieldInViewBelowTheHostsTop)
+{
+    activateHost();
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    auto *first = new QLineEdit;
+    auto *last = new QLineEdit;
+    layout->addWidget(first);
+    layout->addSpacing(1200);
+    layout->addWidget(last);
+    auto *sheet = new TovuToasterView(std::nullopt);
+    sheet->setQuestionView(page);
+    sheet->present(&host);
+    const QWidget *viewport = sheet->contentScrollArea()->viewport();
+    const auto inView = [viewport](const QWidget *field) {
+        return viewport->rect().contains(QRect(field->mapTo(viewport, QPoint()), field->size()));
+    };
+
+    last->setFocus();
+    sheet->keyboardWillShow(QRectF(0, 0, 390, 300), 0);
+    EXPECT_GE(sheet->containerView()->y(), 0); // shorter, not above the host
+    EXPECT_EQ(sheet->containerView()->geometry().bottom(), 844 - 300 - 1);
+    EXPECT_TRUE(inView(last));
+
+    first->setFocus(); // focus moves while the keyboard is up
+    EXPECT_TRUE(inView(first));
+    sheet->dismiss();
+}
+
+TEST_F(ToasterView, TheHostGetsNoInputWhileTheSheetIsUp)
+{
+    auto *field = new QLineEdit(&host);
+    field->setGeometry(20, 20, 200, 30); // under the dimming layer
+    field->show();
+    activateHost();
+    field->setFocus();
+    MouseCounter hostClicks;
+    host.installEventFilter(&hostClicks);
+
+    auto *sheet = new TovuToasterView(std::nullopt);
+    sheet->setQuestionView(new QLineEdit);
+    sheet->present(&host);
+    QWindow *window = host.windowHandle();
+    QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(30, 30));
+    QTest::mouseDClick(window, Qt::LeftButton, {}, QPoint(30, 30));
+    EXPECT_EQ(hostClicks.count, 0);
+    QTest::keyClick(window, Qt::Key_A);
+    EXPECT_TRUE(field->text().isEmpty());
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Backtab}) {
+        QTest::keyClick(window, key);
+        EXPECT_TRUE(sheet->isAncestorOf(QApplication::focusWidget())) << "Tab left the sheet";
+    }
+
+    sheet->dismiss();
+    EXPECT_EQ(QApplication::focusWidget(), field);
+}
+
+TEST_F(ToasterView, InputEndsWhenDismissalBegins)
+{
+    activateHost();
+    QPointer<TovuToasterView> sheet = new TovuToasterView(std::nullopt);
+    int skips = 0;
+    sheet->onSkip = [&skips] {
+        ++skips;
+    };
+    sheet->present(&host);
+    TovuMotion::setDurationScale(1); // the sheet stays on screen while it closes
+    const QPoint skip = sheet->skipButton()->mapTo(&host, sheet->skipButton()->rect().center());
+    QTest::mouseClick(host.windowHandle(), Qt::LeftButton, {}, skip);
+    ASSERT_TRUE(sheet->isDismissing());
+    QTest::mouseClick(host.windowHandle(), Qt::LeftButton, {}, skip);
+    QTest::keyClick(host.windowHandle(), Qt::Key_Space); // the tap gave Skip keyboard focus
+    EXPECT_EQ(skips, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&sheet] { return sheet.isNull(); }, 2000));
+    EXPECT_EQ(skips, 1);
+}
+
+TEST_F(ToasterView, ColoursFollowAPaletteSwitch)
+{
+    using Role = TovuPlatformColors::Role;
+    const QPalette light = QApplication::palette();
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(0x1C, 0x1C, 0x1E));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    const auto switchTo = [](const QPalette &palette) {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents(); // widgets hear of it through posted events
+    };
+    const auto text = [](const QLabel *label) {
+        return label->palette().color(QPalette::WindowText);
+    };
+
+    auto *sheet = new TovuToasterView(std::nullopt);
+    auto *intro = new TovuIntroView(TovuSurveyPage{.enabled = true, .content = "Two minutes"});
+    sheet->setQuestionView(intro);
+    sheet->present(&host);
+    switchTo(dark);
+    EXPECT_EQ(sheet->containerView()->backgroundColor(), TovuPlatformColors::color(Role::systemBackground, true));
+    EXPECT_EQ(sheet->handleView()->backgroundColor(), TovuPlatformColors::color(Role::gray4, true));
+    EXPECT_EQ(text(intro->contentLabel()), TovuPlatformColors::color(Role::label, true));
+    EXPECT_EQ(intro->startButton()->backgroundColor(), TovuPlatformColors::color(Role::blue, true));
+
+    auto *thanks = new TovuThankYouView(std::nullopt); // built in the dark
+    sheet->setQuestionView(thanks);
+    switchTo(light);
+    EXPECT_EQ(sheet->containerView()->backgroundColor(), TovuPlatformColors::color(Role::systemBackground, false));
+    EXPECT_EQ(text(thanks->titleLabel()), TovuPlatformColors::color(Role::label, false));
     sheet->dismiss();
 }

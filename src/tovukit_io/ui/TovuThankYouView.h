@@ -6,15 +6,18 @@
 
 #include <optional>
 
-class QGraphicsOpacityEffect;
 class QLabel;
-class QVariantAnimation;
 class TovuBox;
+class TovuThankYouEntranceEffect;
 class TovuUrlOpener;
 
 /// The closing page: a green check mark, a title and a line under it. When
 /// its question carries a web address, that address is opened 2.5 s after
 /// the page is built, even if the sheet has closed by then.
+///
+/// The page comes in by fading in and zooming from 85 % to full size. The zoom
+/// is painted: the page's size and layout stay still, so the sheet around it
+/// does not move.
 class TovuThankYouView : public QWidget
 {
     Q_OBJECT
@@ -33,11 +36,18 @@ public:
 
     /// 0 just built, 1 once the entrance animation has finished.
     qreal entranceProgress() const { return m_entranceProgress; }
+    /// The scale the page is drawn at: 0.85 just built, 1 once in (the spring may
+    /// overshoot it briefly). Only the drawing scales, never the layout.
+    qreal entranceScale() const;
 
     static constexpr int redirectDelayMs = 2500;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void buildIcon();
+    void restyle();
     void startEntrance();
     void setEntranceProgress(qreal progress);
     void scheduleRedirect(TovuUrlOpener *opener);
@@ -47,7 +57,6 @@ private:
     QLabel *m_iconView = nullptr;
     QLabel *m_titleLabel = nullptr;
     QLabel *m_subtitleLabel = nullptr;
-    QWidget *m_content = nullptr;
-    QGraphicsOpacityEffect *m_opacity = nullptr;
+    TovuThankYouEntranceEffect *m_entranceEffect = nullptr;
     qreal m_entranceProgress = 0;
 };

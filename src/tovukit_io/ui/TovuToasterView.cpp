@@ -1,14 +1,14 @@
 #include <tovukit_io/ui/TovuToasterView.h>
 
-#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
+#include <QApplication>
 #include <QEvent>
 #include <QGraphicsOpacityEffect>
-#include <QGuiApplication>
 #include <QInputMethod>
 #include <QPainter>
 #include <QScrollArea>
@@ -31,6 +31,32 @@ constexpr int contentBottom = 20;
 constexpr qreal maxHeightRatio = 0.92;
 constexpr qreal offscreen = 1000;
 constexpr int keyboardDurationMs = 250; // Qt does not tell the keyboard's own
+constexpr int keyboardTopMargin = 8; // the lifted panel keeps this much of the host visible
+
+// Input that reaches the sheet itself: a tap on the dimming layer, or a key or shortcut
+// no control in the panel took. None of it may go on to the host below.
+bool isHostInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isTabStop(const QWidget *widget, const QWidget *within)
+{
+    return (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() && widget->isVisibleTo(within)
+        && !widget->focusProxy();
+}
 
 // Runs `apply` from `from` to `to` over `durationMs` with `curve`, then
 // `done`; at once when motion is off.
@@ -69,25 +95,29 @@ TovuToasterView::TovuToasterView(std::optional<TovuSurvey> survey, QWidget *pare
         m_dimmingAlpha = std::clamp(static_cast<qreal>(*m_survey->theme->transparency), 0.0, 1.0);
     setAttribute(Qt::WA_NoSystemBackground);
     buildPanel();
+    restyle();
+    m_focusConnection = connect(qApp, &QApplication::focusChanged, this, &TovuToasterView::focusMoved);
 }
 
-TovuToasterView::~TovuToasterView() = default;
+TovuToasterView::~TovuToasterView()
+{
+    // Deleting the focused child emits focusChanged while QWidget's destructor runs,
+    // when this is no longer a sheet.
+    disconnect(m_focusConnection);
+}
 
 void TovuToasterView::buildPanel()
 {
     const TovuThemeEngine &theme = TovuThemeEngine::shared();
     m_containerView = new TovuBox(this);
-    m_containerView->setBackgroundColor(theme.backgroundColor());
     theme.applyCornerRadius(m_containerView);
 
     m_handleView = new TovuBox(m_containerView);
-    m_handleView->setBackgroundColor(TovuPlatformColors::color(TovuPlatformColors::Role::gray4));
     m_handleView->setCornerRadius(2.5);
     m_handleView->setFixedSize(handleSize);
 
     m_skipButton = new TovuButton(tr("Skip"), m_containerView);
     m_skipButton->setBackgroundColor(Qt::transparent);
-    m_skipButton->setTitleColor(TovuPlatformColors::color(TovuPlatformColors::Role::gray));
     m_skipButton->setFont(theme.font(14, QFont::Normal));
     m_skipButton->setContentInsets(QMargins(4, 2, 4, 2));
     connect(m_skipButton, &TovuButton::clicked, this, &TovuToasterView::skipTapped);
@@ -111,11 +141,21 @@ void TovuToasterView::buildPanel()
     m_content->installEventFilter(this);
 }
 
+// Colours are resolved again on every palette change: one left to the platform must
+// follow a light → dark switch while the sheet is up.
+void TovuToasterView::restyle()
+{
+    m_containerView->setBackgroundColor(TovuThemeEngine::shared().backgroundColor());
+    m_handleView->setBackgroundColor(TovuPlatformColors::color(TovuPlatformColors::Role::gray4));
+    m_skipButton->setTitleColor(TovuPlatformColors::color(TovuPlatformColors::Role::gray));
+}
+
 void TovuToasterView::present(QWidget *host)
 {
     if (!host || m_host)
         return;
     m_host = host;
+    m_previousFocus = host->window()->focusWidget();
     setParent(host);
     setGeometry(host->rect());
     host->installEventFilter(this);
@@ -123,6 +163,8 @@ void TovuToasterView::present(QWidget *host)
     setTranslation(offscreen);
     show();
     raise();
+    // Keys go to the sheet from now on; the sheet swallows what its controls do not take.
+    setFocus(Qt::OtherFocusReason);
     // The dimming layer is there at once; only the panel moves.
     animate(this, offscreen, 0, TovuMotion::durationMs(0.35), TovuMotion::spring(0.8, 1.2),
             [this](qreal value) { setTranslation(value); });
@@ -133,6 +175,7 @@ void TovuToasterView::dismiss()
     if (m_dismissing)
         return;
     m_dismissing = true;
+    endInput();
     trackKeyboard(false);
     if (m_host)
         m_host->removeEventFilter(this);
@@ -146,6 +189,7 @@ void TovuToasterView::dismiss()
             fade->setOpacity(1 - progress);
         },
         [this] {
+            restoreFocus();
             hide();
             setParent(nullptr);
             deleteLater();
@@ -154,9 +198,85 @@ void TovuToasterView::dismiss()
 
 void TovuToasterView::skipTapped()
 {
+    if (m_dismissing)
+        return;
     if (onSkip)
         onSkip();
     dismiss();
+}
+
+// A closing sheet takes no more answers: taps pass through the panel to the inert
+// dimming layer, and keys go to the sheet itself, which ignores them.
+void TovuToasterView::endInput()
+{
+    m_containerView->setAttribute(Qt::WA_TransparentForMouseEvents);
+    if (m_containerView->isAncestorOf(window()->focusWidget()))
+        setFocus(Qt::OtherFocusReason);
+}
+
+void TovuToasterView::restoreFocus()
+{
+    QWidget *focus = window()->focusWidget();
+    if (focus && !contains(focus))
+        return; // moved on by the host already
+    if (m_previousFocus && !contains(m_previousFocus))
+        m_previousFocus->setFocus(Qt::OtherFocusReason);
+    else if (focus)
+        focus->clearFocus();
+}
+
+bool TovuToasterView::contains(const QWidget *widget) const
+{
+    return widget && (widget == this || isAncestorOf(widget));
+}
+
+void TovuToasterView::focusMoved(QWidget *old, QWidget *now)
+{
+    if (!m_host || m_dismissing || !now)
+        return;
+    if (contains(now)) {
+        ensureFocusVisible(now);
+        return;
+    }
+    // The host's own widgets stay out of reach while the sheet covers them, also when a
+    // click or the host's code hands one of them focus.
+    if (now == m_host || m_host->isAncestorOf(now)) {
+        QWidget *back = contains(old) ? old : this;
+        back->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void TovuToasterView::ensureFocusVisible(QWidget *focus)
+{
+    if (m_bottomOffset > 0 && m_content->isAncestorOf(focus))
+        m_scrollArea->ensureWidgetVisible(focus);
+}
+
+bool TovuToasterView::focusNextPrevChild(bool next)
+{
+    if (!m_host)
+        return QWidget::focusNextPrevChild(next);
+    if (m_dismissing)
+        return true; // keys stay with the closing sheet
+    QWidget *start = window()->focusWidget();
+    if (!contains(start))
+        start = this;
+    if (start != this && !start->isVisible()) {
+        // The focused control went away with its page: rest on the sheet rather than
+        // jumping to another control.
+        setFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    // Tab and Backtab cycle through the sheet's controls only, never into the host.
+    for (QWidget *candidate = start;;) {
+        candidate = next ? candidate->nextInFocusChain() : candidate->previousInFocusChain();
+        if (!candidate || candidate == start)
+            return true;
+        if (candidate != this && contains(candidate) && isTabStop(candidate, this)) {
+            candidate->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    }
 }
 
 void TovuToasterView::setQuestionView(QWidget *view)
@@ -229,6 +349,7 @@ void TovuToasterView::setBottomOffset(qreal offset)
 {
     m_bottomOffset = offset;
     layoutPanel();
+    ensureFocusVisible(window()->focusWidget());
 }
 
 int TovuToasterView::panelHeight() const
@@ -238,7 +359,11 @@ int TovuToasterView::panelHeight() const
     const int contentHeight
         = layout->hasHeightForWidth() ? layout->totalHeightForWidth(contentWidth) : layout->totalSizeHint().height();
     const int wanted = contentTop + contentHeight + contentBottom;
-    return std::min(wanted, static_cast<int>(height() * maxHeightRatio));
+    int limit = static_cast<int>(height() * maxHeightRatio);
+    // Lifted by the keyboard, the panel gets shorter rather than rising above the host's top.
+    if (m_bottomOffset > 0)
+        limit = std::min(limit, height() - static_cast<int>(m_bottomOffset) - keyboardTopMargin);
+    return std::clamp(wanted, 0, std::max(0, limit));
 }
 
 void TovuToasterView::layoutPanel()
@@ -257,6 +382,16 @@ void TovuToasterView::layoutPanel()
     m_skipButton->raise();
 }
 
+bool TovuToasterView::event(QEvent *event)
+{
+    const bool handled = QWidget::event(event);
+    if (!isHostInput(event->type()))
+        return handled;
+    // Tab has been handled above; everything else that got this far ends here.
+    event->accept();
+    return true;
+}
+
 void TovuToasterView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -269,6 +404,13 @@ void TovuToasterView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     layoutPanel();
+}
+
+void TovuToasterView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
+        restyle();
 }
 
 bool TovuToasterView::eventFilter(QObject *watched, QEvent *event)

@@ -26,8 +26,11 @@ class TovuButton;
 /// \endcode
 ///
 /// The panel is at most 92 % of the host's height; taller pages scroll
-/// inside it. It rises above the on-screen keyboard while one is shown.
-/// After dismiss() the sheet removes and deletes itself.
+/// inside it. It rises above the on-screen keyboard while one is shown and
+/// keeps the focused field in view. While the sheet is up the host gets no
+/// input: taps on the dimming layer do nothing, keyboard focus stays inside
+/// the sheet and returns to the host's focused widget afterwards. Input ends
+/// when dismissal begins. After dismiss() the sheet removes and deletes itself.
 class TovuToasterView : public QWidget
 {
     Q_OBJECT
@@ -66,13 +69,22 @@ public:
     std::function<void()> onSkip;
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void buildPanel();
+    void restyle();
     void skipTapped();
+    void endInput();
+    void restoreFocus();
+    bool contains(const QWidget *widget) const;
+    void focusMoved(QWidget *old, QWidget *now);
+    void ensureFocusVisible(QWidget *focus);
     void layoutPanel();
     int panelHeight() const;
     void setTranslation(qreal translation);
@@ -83,6 +95,8 @@ private:
 
     std::optional<TovuSurvey> m_survey;
     QPointer<QWidget> m_host;
+    QPointer<QWidget> m_previousFocus;
+    QMetaObject::Connection m_focusConnection;
     TovuBox *m_containerView = nullptr;
     TovuBox *m_handleView = nullptr;
     TovuButton *m_skipButton = nullptr;

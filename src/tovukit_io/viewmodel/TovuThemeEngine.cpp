@@ -73,13 +73,12 @@ std::optional<QColor> hostAccent(const QPalette &palette)
     return std::nullopt;
 }
 
-// The palette of whatever has keyboard focus: a widget or a Qt Quick item, read
-// through the property system so this layer needs no widgets.
-QPalette focusPalette()
+// A widget's window flags say whether it is a window of its own, which inherits no
+// palette from the widget it belongs to.
+bool isWindow(const QObject *object)
 {
-    const QObject *focus = QGuiApplication::focusObject();
-    const QVariant palette = focus ? focus->property("palette") : QVariant();
-    return palette.canConvert<QPalette>() ? palette.value<QPalette>() : QGuiApplication::palette();
+    const QVariant flags = object->property("windowFlags");
+    return flags.isValid() && (flags.value<Qt::WindowFlags>() & Qt::Window);
 }
 
 bool isInstalledFamily(const QString &family)
@@ -126,7 +125,21 @@ const std::optional<TovuAppTheme> &TovuThemeEngine::appTheme() const
 
 QColor TovuThemeEngine::primaryColor() const
 {
-    return primaryColor(focusPalette());
+    // The window that has keyboard focus stands for the application's key window.
+    return primaryColor(QGuiApplication::focusObject());
+}
+
+QColor TovuThemeEngine::primaryColor(const QObject *page) const
+{
+    for (const QObject *object = page; object; object = object->parent()) {
+        // Objects without a palette read as a default palette, which sets nothing.
+        const QPalette palette = object->property("palette").value<QPalette>();
+        if (hostAccent(palette))
+            return primaryColor(palette);
+        if (isWindow(object))
+            break;
+    }
+    return primaryColor(QGuiApplication::palette());
 }
 
 QColor TovuThemeEngine::primaryColor(const QPalette &context) const

@@ -50,6 +50,11 @@ public:
     /// host window: the app's, else the survey's, else the Highlight the host set
     /// explicitly, else the platform blue of the current appearance.
     QColor primaryColor(const QPalette &context) const;
+    /// The accent for `page` (a widget or a Qt Quick item): as above, with the Highlight
+    /// that `page` or the nearest ancestor in its window set explicitly. Qt hands a
+    /// parent's colours down to its children but not the mark of which were set on
+    /// purpose, so the search looks where they were set.
+    QColor primaryColor(const QObject *page) const;
     /// Default: the platform's system background.
     QColor backgroundColor() const;
     /// Default: the platform's label colour.
