@@ -29,15 +29,35 @@
 #include <tovukit_io/network/TovuNetworkService.h>
 
 #include <tovukit_io/viewmodel/TovuAppTheme.h>
+#include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
+#include <tovukit_io/ui/TovuDropdownQuestionView.h>
 #include <tovukit_io/ui/TovuIntroView.h>
+#include <tovukit_io/ui/TovuMultipleChoiceQuestionView.h>
+#include <tovukit_io/ui/TovuQuestionView.h>
+#include <tovukit_io/ui/TovuSingleChoiceQuestionView.h>
+#include <tovukit_io/ui/TovuTextBoxQuestionView.h>
 #include <tovukit_io/ui/TovuThankYouView.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuBoxLook.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/ui/kit/TovuChevron.h>
+#include <tovukit_io/ui/kit/TovuEmoji.h>
+#include <tovukit_io/ui/kit/TovuEqualWidthLayout.h>
+#include <tovukit_io/ui/kit/TovuFitLabel.h>
+#include <tovukit_io/ui/kit/TovuHairline.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
+#include <tovukit_io/ui/kit/TovuScrollStrip.h>
+#include <tovukit_io/ui/kit/TovuShake.h>
 #include <tovukit_io/ui/kit/TovuSymbol.h>
+#include <tovukit_io/ui/kit/TovuSymbolButton.h>
+#include <tovukit_io/ui/kit/TovuTextArea.h>
+#include <tovukit_io/ui/kit/TovuTextField.h>

@@ -4,17 +4,20 @@
 //
 // A 390 × 844 host window at 2× device-pixel ratio, light and dark: the sheet
 // with the intro page, with the thank-you page, with a page taller than the
-// sheet, and with a survey theme (transparency 0.2, its own colours, font base 20).
+// sheet, and with a survey theme (transparency 0.2, its own colours, font base 20);
+// every question view untouched, after a choice and with its validation message;
+// the dropdown open; the text box with a focused field.
 
 #include "TovuKitSampleSheet.h"
+#include "TovuQuestionSamples.h"
 
 #include <tovukit_io/ui/TovuIntroView.h>
 #include <tovukit_io/ui/TovuThankYouView.h>
-#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <QApplication>
 #include <QDir>
@@ -75,15 +78,23 @@ QWidget *longPage()
     return page;
 }
 
-bool shoot(const QString &path, std::optional<TovuSurvey> survey, const std::function<QWidget *()> &makePage)
+bool shoot(const QString &path, std::optional<TovuSurvey> survey, const std::function<QWidget *()> &makePage,
+           const std::function<void(QWidget *)> &act = {})
 {
     QWidget *host = makeHost();
     host->show();
+    // Active, so a focused field shows its focus.
+    host->activateWindow();
     TovuThemeEngine::shared().setTheme(survey ? survey->theme : std::nullopt);
     auto *sheet = new TovuToasterView(survey);
-    sheet->setQuestionView(makePage());
+    QWidget *page = makePage();
+    sheet->setQuestionView(page);
     sheet->present(host);
     QApplication::processEvents();
+    if (act) {
+        act(page);
+        QApplication::processEvents();
+    }
     const bool saved = host->grab().save(path);
     std::printf("%s %s\n", saved ? "wrote" : "could not write", qPrintable(path));
     delete host;
@@ -146,6 +157,8 @@ int main(int argc, char **argv)
         ok &= shoot(file("sheet-long"), std::nullopt, longPage);
         ok &= shoot(file("sheet-themed"), themedSurvey(), [&] { return new TovuIntroView(intro); });
         ok &= shootKit(file("kit"));
+        for (const TovuQuestionSamples::Shot &shot : TovuQuestionSamples::shots())
+            ok &= shoot(file(shot.name), std::nullopt, shot.makePage, shot.act);
     }
     return ok ? 0 : 1;
 }

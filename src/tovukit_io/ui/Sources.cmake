@@ -7,3 +7,19 @@ list(APPEND ui_headers
   TovuIntroView.h
   TovuThankYouView.h
   TovuToasterView.h)
+
+# Question views: each draws its view model.
+list(APPEND ui_sources
+  TovuDropdownQuestionView.cpp
+  TovuMultipleChoiceQuestionView.cpp
+  TovuQuestionParts.cpp
+  TovuQuestionParts.h
+  TovuQuestionView.cpp
+  TovuSingleChoiceQuestionView.cpp
+  TovuTextBoxQuestionView.cpp)
+list(APPEND ui_headers
+  TovuDropdownQuestionView.h
+  TovuMultipleChoiceQuestionView.h
+  TovuQuestionView.h
+  TovuSingleChoiceQuestionView.h
+  TovuTextBoxQuestionView.h)

@@ -1,0 +1,140 @@
+#include <tovukit_io/ui/TovuDropdownQuestionView.h>
+
+#include "TovuQuestionParts.h"
+
+#include <tovukit_io/ui/kit/TovuBox.h>
+#include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/ui/kit/TovuChevron.h>
+#include <tovukit_io/ui/kit/TovuHairline.h>
+#include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+using Parts = TovuQuestionParts;
+
+TovuDropdownQuestionView::TovuDropdownQuestionView(TovuQuestion question, QWidget *parent)
+    : TovuDropdownQuestionView(new TovuDropdownQuestionViewModel(std::move(question)), parent)
+{ }
+
+TovuDropdownQuestionView::TovuDropdownQuestionView(TovuQuestion question, bool, QWidget *parent)
+    : TovuDropdownQuestionView(std::move(question), parent)
+{ }
+
+TovuDropdownQuestionView::TovuDropdownQuestionView(TovuDropdownQuestionViewModel *model, QWidget *parent)
+    : TovuQuestionView(model, parent)
+    , m_model(model)
+{
+    QVBoxLayout *outer = Parts::pageStack(this, 12);
+    m_titleLabel = Parts::titleLabel(m_model->title(), this);
+    outer->addWidget(m_titleLabel);
+    buildSelector();
+    outer->addWidget(m_dropdownButton);
+    buildList();
+    outer->addWidget(m_optionsContainer);
+    m_validationLabel = Parts::validationLabel(m_model->validationMessage(), this);
+    outer->addWidget(m_validationLabel);
+    m_nextButton = Parts::actionButton(m_model->actionTitle(), this);
+    outer->addWidget(m_nextButton);
+
+    bindModel(m_validationLabel, m_nextButton);
+    connect(m_model, &TovuDropdownQuestionViewModel::expandedChanged, this, &TovuDropdownQuestionView::showExpansion);
+    connect(m_model, &TovuDropdownQuestionViewModel::selectedIndexChanged, this, &TovuDropdownQuestionView::restyle);
+    finishBuilding();
+}
+
+TovuDropdownQuestionView::~TovuDropdownQuestionView() = default;
+
+void TovuDropdownQuestionView::buildSelector()
+{
+    m_dropdownButton = new TovuButton(m_model->selectorTitle(), this);
+    m_dropdownButton->setFont(Parts::font(15, QFont::Normal));
+    m_dropdownButton->setTitleAlignment(Qt::AlignLeading);
+    m_dropdownButton->setContentInsets(QMargins(16, 14, 48, 14));
+    m_dropdownButton->setCornerRadius(12);
+    m_dropdownButton->setBorderWidth(1.5);
+    m_dropdownButton->setFixedHeight(52);
+    connect(m_dropdownButton, &TovuButton::clicked, m_model, &TovuDropdownQuestionViewModel::toggleExpanded);
+
+    m_chevron = new TovuChevron(m_dropdownButton);
+    m_chevron->setTag(99);
+}
+
+void TovuDropdownQuestionView::buildList()
+{
+    m_optionsContainer = new TovuBox(this);
+    m_optionsContainer->setCornerRadius(12);
+    m_optionsContainer->setBorderWidth(1.5);
+    // A soft shadow under the open list; the panel does not clip, so the shadow shows.
+    m_optionsContainer->setHasShadow(true);
+    m_optionsContainer->setShadowColor(QColor::fromRgbF(0, 0, 0, 0.06f));
+    m_optionsContainer->setShadowOffset(QPointF(0, 4));
+    m_optionsContainer->setShadowBlurRadius(8);
+    m_optionsContainer->hide();
+
+    m_optionsStack = Parts::pageStack(m_optionsContainer, 0);
+    const QStringList texts = m_model->optionTexts();
+    for (int index = 0; index < texts.size(); ++index) {
+        if (index > 0)
+            m_optionsStack->addWidget(new TovuHairline(m_optionsContainer));
+        auto *button = new TovuButton(texts[index], m_optionsContainer);
+        button->setFont(Parts::font(15, QFont::Normal));
+        button->setTitleAlignment(Qt::AlignLeading);
+        button->setContentInsets(QMargins(16, 14, 16, 14));
+        button->setFixedHeight(50);
+        button->setTag(index);
+        connect(button, &TovuButton::clicked, this, [this, button] { optionTapped(button); });
+        m_optionsStack->addWidget(button);
+        m_optionButtons.append(button);
+        m_optionMap.emplace(button, m_model->question()->options->at(static_cast<std::size_t>(index)));
+    }
+}
+
+const std::optional<TovuQuestion> &TovuDropdownQuestionView::question() const
+{
+    return m_model->question();
+}
+
+std::optional<TovuChoice> TovuDropdownQuestionView::selectedOption() const
+{
+    return m_model->selectedOption();
+}
+
+bool TovuDropdownQuestionView::isExpanded() const
+{
+    return m_model->isExpanded();
+}
+
+void TovuDropdownQuestionView::optionTapped(TovuButton *button)
+{
+    if (m_optionMap.contains(button))
+        m_model->chooseOption(button->tag());
+}
+
+void TovuDropdownQuestionView::showExpansion()
+{
+    m_optionsContainer->setVisible(m_model->isExpanded());
+    m_chevron->setExpanded(m_model->isExpanded());
+    restyle();
+}
+
+void TovuDropdownQuestionView::restyle()
+{
+    const QColor primary = accent();
+    Parts::restyleTitle(m_titleLabel);
+    Parts::restyleValidation(m_validationLabel);
+    Parts::restyleAction(m_nextButton, primary);
+
+    // The selector stays highlighted while open and once something is chosen.
+    m_dropdownButton->setText(m_model->selectorTitle());
+    m_dropdownButton->setTitleColor(
+        m_model->hasSelection() ? QColor() : TovuPlatformColors::color(TovuPlatformColors::Role::secondaryLabel));
+    m_dropdownButton->setBorderColor(m_model->isExpanded() || m_model->hasSelection() ? primary : QColor());
+
+    for (TovuButton *button : std::as_const(m_optionButtons)) {
+        const bool chosen = button->tag() == m_model->selectedIndex();
+        button->setBackgroundColor(chosen ? Parts::withAlpha(primary, 0.08) : QColor(Qt::transparent));
+        button->setTitleColor(chosen ? primary : QColor());
+    }
+}

@@ -1,0 +1,87 @@
+#include <tovukit_io/ui/TovuMultipleChoiceQuestionView.h>
+
+#include "TovuQuestionParts.h"
+
+#include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+using Parts = TovuQuestionParts;
+
+TovuMultipleChoiceQuestionView::TovuMultipleChoiceQuestionView(TovuQuestion question, bool isLastQuestion,
+                                                               QWidget *parent)
+    : TovuMultipleChoiceQuestionView(new TovuMultipleChoiceQuestionViewModel(std::move(question), isLastQuestion),
+                                     parent)
+{ }
+
+TovuMultipleChoiceQuestionView::TovuMultipleChoiceQuestionView(TovuMultipleChoiceQuestionViewModel *model,
+                                                               QWidget *parent)
+    : TovuQuestionView(model, parent)
+    , m_model(model)
+{
+    QVBoxLayout *outer = Parts::pageStack(this, 14);
+    m_titleLabel = Parts::titleLabel(m_model->title(), this);
+    outer->addWidget(m_titleLabel);
+    m_hintLabel = Parts::hintLabel(m_model->hint(), this);
+    outer->addWidget(m_hintLabel);
+
+    m_optionsStack = Parts::stack(10);
+    const QStringList texts = m_model->optionTexts();
+    const QStringList ids = m_model->optionIds();
+    for (qsizetype index = 0; index < texts.size(); ++index) {
+        TovuButton *row = Parts::optionRow(texts[index], TovuButton::Accessory::checkbox, this);
+        row->setObjectName(ids[index]);
+        connect(row, &TovuButton::clicked, this, [this, row] { optionTapped(row); });
+        m_optionsStack->addWidget(row);
+        m_optionButtons.append(row);
+    }
+    outer->addLayout(m_optionsStack);
+
+    m_validationLabel = Parts::validationLabel(m_model->validationMessage(), this);
+    outer->addWidget(m_validationLabel);
+    m_nextButton = Parts::actionButton(m_model->actionTitle(), this);
+    outer->addWidget(m_nextButton);
+
+    bindModel(m_validationLabel, m_nextButton);
+    connect(m_model, &TovuMultipleChoiceQuestionViewModel::selectedIdsChanged, this,
+            &TovuMultipleChoiceQuestionView::restyle);
+    finishBuilding();
+}
+
+TovuMultipleChoiceQuestionView::~TovuMultipleChoiceQuestionView() = default;
+
+const std::optional<TovuQuestion> &TovuMultipleChoiceQuestionView::question() const
+{
+    return m_model->question();
+}
+
+bool TovuMultipleChoiceQuestionView::isLastQuestion() const
+{
+    return m_model->isLastQuestion();
+}
+
+QStringList TovuMultipleChoiceQuestionView::selectedIds() const
+{
+    return m_model->selectedIds();
+}
+
+void TovuMultipleChoiceQuestionView::optionTapped(TovuButton *row)
+{
+    m_model->toggleOption(row->objectName());
+    // Only a tick bounces; an untick just lets go.
+    if (m_model->isSelected(row->objectName()))
+        row->tapScale(0.97, 0.08);
+}
+
+void TovuMultipleChoiceQuestionView::restyle()
+{
+    const QColor primary = accent();
+    Parts::restyleTitle(m_titleLabel);
+    Parts::restyleHint(m_hintLabel);
+    Parts::restyleValidation(m_validationLabel);
+    Parts::restyleAction(m_nextButton, primary);
+    for (TovuButton *row : std::as_const(m_optionButtons))
+        Parts::restyleOptionRow(row, m_model->isSelected(row->objectName()), primary);
+}

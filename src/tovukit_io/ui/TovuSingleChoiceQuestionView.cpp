@@ -1,0 +1,79 @@
+#include <tovukit_io/ui/TovuSingleChoiceQuestionView.h>
+
+#include "TovuQuestionParts.h"
+
+#include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+using Parts = TovuQuestionParts;
+
+TovuSingleChoiceQuestionView::TovuSingleChoiceQuestionView(TovuQuestion question, bool isLastQuestion, QWidget *parent)
+    : TovuSingleChoiceQuestionView(new TovuSingleChoiceQuestionViewModel(std::move(question), isLastQuestion), parent)
+{ }
+
+TovuSingleChoiceQuestionView::TovuSingleChoiceQuestionView(TovuSingleChoiceQuestionViewModel *model, QWidget *parent)
+    : TovuQuestionView(model, parent)
+    , m_model(model)
+{
+    QVBoxLayout *outer = Parts::pageStack(this, 18);
+    m_titleLabel = Parts::titleLabel(m_model->title(), this);
+    outer->addWidget(m_titleLabel);
+
+    m_optionsStack = Parts::stack(10);
+    const QStringList texts = m_model->optionTexts();
+    for (int index = 0; index < texts.size(); ++index) {
+        TovuButton *row = Parts::optionRow(texts[index], TovuButton::Accessory::radio, this);
+        row->setTag(index);
+        connect(row, &TovuButton::clicked, this, [this, row] { optionTapped(row); });
+        m_optionsStack->addWidget(row);
+        m_optionRows.append(row);
+    }
+    outer->addLayout(m_optionsStack);
+
+    m_validationLabel = Parts::validationLabel(m_model->validationMessage(), this);
+    outer->addWidget(m_validationLabel);
+    m_nextButton = Parts::actionButton(m_model->actionTitle(), this);
+    outer->addWidget(m_nextButton);
+
+    bindModel(m_validationLabel, m_nextButton);
+    connect(m_model, &TovuSingleChoiceQuestionViewModel::selectedIndexChanged, this,
+            &TovuSingleChoiceQuestionView::restyle);
+    finishBuilding();
+}
+
+TovuSingleChoiceQuestionView::~TovuSingleChoiceQuestionView() = default;
+
+const std::optional<TovuQuestion> &TovuSingleChoiceQuestionView::question() const
+{
+    return m_model->question();
+}
+
+bool TovuSingleChoiceQuestionView::isLastQuestion() const
+{
+    return m_model->isLastQuestion();
+}
+
+std::optional<TovuChoice> TovuSingleChoiceQuestionView::selectedOption() const
+{
+    return m_model->selectedOption();
+}
+
+void TovuSingleChoiceQuestionView::optionTapped(TovuButton *row)
+{
+    m_model->selectOption(row->tag());
+    if (m_model->selectedIndex() == row->tag())
+        row->tapScale(0.97, 0.08);
+}
+
+void TovuSingleChoiceQuestionView::restyle()
+{
+    const QColor primary = accent();
+    Parts::restyleTitle(m_titleLabel);
+    Parts::restyleValidation(m_validationLabel);
+    Parts::restyleAction(m_nextButton, primary);
+    for (TovuButton *row : std::as_const(m_optionRows))
+        Parts::restyleOptionRow(row, row->tag() == m_model->selectedIndex(), primary);
+}
