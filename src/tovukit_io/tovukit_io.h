@@ -54,6 +54,7 @@
 #include <tovukit_io/ui/kit/TovuEqualWidthLayout.h>
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 #include <tovukit_io/ui/kit/TovuHairline.h>
+#include <tovukit_io/ui/kit/TovuInputFrame.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuScrollStrip.h>
 #include <tovukit_io/ui/kit/TovuShake.h>

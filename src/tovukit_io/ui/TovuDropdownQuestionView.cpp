@@ -33,12 +33,9 @@ TovuDropdownQuestionView::TovuDropdownQuestionView(TovuDropdownQuestionViewModel
     outer->addWidget(m_dropdownButton);
     buildList();
     outer->addWidget(m_optionsContainer);
-    m_validationLabel = Parts::validationLabel(m_model->validationMessage(), this);
-    outer->addWidget(m_validationLabel);
-    m_nextButton = Parts::actionButton(m_model->actionTitle(), this);
-    outer->addWidget(m_nextButton);
-
-    bindModel(m_validationLabel, m_nextButton);
+    const Footer footer = addFooter(outer);
+    m_validationLabel = footer.validationLabel;
+    m_nextButton = footer.actionButton;
     connect(m_model, &TovuDropdownQuestionViewModel::expandedChanged, this, &TovuDropdownQuestionView::showExpansion);
     connect(m_model, &TovuDropdownQuestionViewModel::selectedIndexChanged, this, &TovuDropdownQuestionView::restyle);
     finishBuilding();
@@ -74,6 +71,8 @@ void TovuDropdownQuestionView::buildList()
     m_optionsContainer->hide();
 
     m_optionsStack = Parts::pageStack(m_optionsContainer, 0);
+    // Inside the border, so separators and a tinted choice never paint over it.
+    m_optionsStack->setContentsMargins(2, 2, 2, 2);
     const QStringList texts = m_model->optionTexts();
     for (int index = 0; index < texts.size(); ++index) {
         if (index > 0)

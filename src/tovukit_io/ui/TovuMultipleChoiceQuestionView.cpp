@@ -27,24 +27,16 @@ TovuMultipleChoiceQuestionView::TovuMultipleChoiceQuestionView(TovuMultipleChoic
     m_hintLabel = Parts::hintLabel(m_model->hint(), this);
     outer->addWidget(m_hintLabel);
 
-    m_optionsStack = Parts::stack(10);
-    const QStringList texts = m_model->optionTexts();
+    m_optionsStack = Parts::optionRows(m_model->optionTexts(), TovuButton::Accessory::checkbox, this, m_optionButtons,
+                                       [this](TovuButton *row) { optionTapped(row); });
+    // The id, not the position, links a row to its option.
     const QStringList ids = m_model->optionIds();
-    for (qsizetype index = 0; index < texts.size(); ++index) {
-        TovuButton *row = Parts::optionRow(texts[index], TovuButton::Accessory::checkbox, this);
-        row->setObjectName(ids[index]);
-        connect(row, &TovuButton::clicked, this, [this, row] { optionTapped(row); });
-        m_optionsStack->addWidget(row);
-        m_optionButtons.append(row);
-    }
+    for (TovuButton *row : std::as_const(m_optionButtons))
+        row->setObjectName(ids[row->tag()]);
     outer->addLayout(m_optionsStack);
-
-    m_validationLabel = Parts::validationLabel(m_model->validationMessage(), this);
-    outer->addWidget(m_validationLabel);
-    m_nextButton = Parts::actionButton(m_model->actionTitle(), this);
-    outer->addWidget(m_nextButton);
-
-    bindModel(m_validationLabel, m_nextButton);
+    const Footer footer = addFooter(outer);
+    m_validationLabel = footer.validationLabel;
+    m_nextButton = footer.actionButton;
     connect(m_model, &TovuMultipleChoiceQuestionViewModel::selectedIdsChanged, this,
             &TovuMultipleChoiceQuestionView::restyle);
     finishBuilding();

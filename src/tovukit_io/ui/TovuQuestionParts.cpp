@@ -90,6 +90,20 @@ TovuButton *TovuQuestionParts::optionRow(const QString &text, TovuButton::Access
     return row;
 }
 
+QVBoxLayout *TovuQuestionParts::optionRows(const QStringList &texts, TovuButton::Accessory accessory, QWidget *page,
+                                           QList<TovuButton *> &rows, const std::function<void(TovuButton *)> &tapped)
+{
+    QVBoxLayout *layout = stack(10);
+    for (int index = 0; index < texts.size(); ++index) {
+        TovuButton *row = optionRow(texts[index], accessory, page);
+        row->setTag(index);
+        QObject::connect(row, &TovuButton::clicked, page, [row, tapped] { tapped(row); });
+        layout->addWidget(row);
+        rows.append(row);
+    }
+    return layout;
+}
+
 void TovuQuestionParts::restyleTitle(QLabel *title)
 {
     TovuLabels::setColor(title, TovuThemeEngine::shared().textColor());

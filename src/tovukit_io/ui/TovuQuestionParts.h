@@ -7,7 +7,11 @@
 
 #include <QColor>
 #include <QFont>
+#include <QList>
 #include <QString>
+#include <QStringList>
+
+#include <functional>
 
 class QLabel;
 class QVBoxLayout;
@@ -31,6 +35,11 @@ public:
     /// An answer row with a radio or checkbox mark: 15 medium, leading title, radius 12,
     /// border 1.5, height 52, insets 14 / 48 / 14 / 16.
     static TovuButton *optionRow(const QString &text, TovuButton::Accessory accessory, QWidget *parent);
+
+    /// A stack (spacing 10) of one option row per text, appended to `rows`; a tap on a
+    /// row calls `tapped` with it.
+    static QVBoxLayout *optionRows(const QStringList &texts, TovuButton::Accessory accessory, QWidget *page,
+                                   QList<TovuButton *> &rows, const std::function<void(TovuButton *)> &tapped);
 
     /// Colours of a title or hint after a palette change.
     static void restyleTitle(QLabel *title);

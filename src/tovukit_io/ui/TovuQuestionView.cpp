@@ -1,13 +1,15 @@
 #include <tovukit_io/ui/TovuQuestionView.h>
 
+#include "TovuQuestionParts.h"
+
 #include <tovukit_io/ui/kit/TovuButton.h>
-#include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuShake.h>
 #include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <QEvent>
 #include <QLabel>
+#include <QVBoxLayout>
 
 TovuQuestionView::TovuQuestionView(TovuQuestionViewModel *model, QWidget *parent)
     : QWidget(parent)
@@ -22,25 +24,26 @@ TovuQuestionView::TovuQuestionView(TovuQuestionViewModel *model, QWidget *parent
 
 TovuQuestionView::~TovuQuestionView() = default;
 
-void TovuQuestionView::bindModel(QLabel *validationLabel, TovuButton *actionButton, QWidget *shakeTarget)
+TovuQuestionView::Footer TovuQuestionView::addFooter(QVBoxLayout *stack, bool shakeMessage)
 {
     TovuQuestionViewModel *model = m_baseModel;
-    if (validationLabel) {
-        validationLabel->setVisible(model->isValidationVisible());
-        connect(model, &TovuQuestionViewModel::validationVisibleChanged, validationLabel,
-                [validationLabel, model] { validationLabel->setVisible(model->isValidationVisible()); });
-    }
-    if (actionButton) {
-        actionButton->setText(model->actionTitle());
-        actionButton->setVisible(model->isActionVisible());
-        connect(model, &TovuQuestionViewModel::actionTitleChanged, actionButton,
-                [actionButton, model] { actionButton->setText(model->actionTitle()); });
-        connect(model, &TovuQuestionViewModel::actionVisibleChanged, actionButton,
-                [actionButton, model] { actionButton->setVisible(model->isActionVisible()); });
-        connect(actionButton, &TovuButton::clicked, model, &TovuQuestionViewModel::submit);
-    }
-    QWidget *target = shakeTarget ? shakeTarget : this;
+    QLabel *validation = TovuQuestionParts::validationLabel(model->validationMessage(), this);
+    stack->addWidget(validation);
+    connect(model, &TovuQuestionViewModel::validationVisibleChanged, validation,
+            [validation, model] { validation->setVisible(model->isValidationVisible()); });
+
+    TovuButton *action = TovuQuestionParts::actionButton(model->actionTitle(), this);
+    action->setVisible(model->isActionVisible());
+    stack->addWidget(action);
+    connect(model, &TovuQuestionViewModel::actionTitleChanged, action,
+            [action, model] { action->setText(model->actionTitle()); });
+    connect(model, &TovuQuestionViewModel::actionVisibleChanged, action,
+            [action, model] { action->setVisible(model->isActionVisible()); });
+    connect(action, &TovuButton::clicked, model, &TovuQuestionViewModel::submit);
+
+    QWidget *target = shakeMessage ? static_cast<QWidget *>(validation) : this;
     connect(model, &TovuQuestionViewModel::shakeRequested, target, [target] { TovuShake::shake(target); });
+    return {validation, action};
 }
 
 QColor TovuQuestionView::accent() const

@@ -8,6 +8,7 @@
 #include <functional>
 
 class QLabel;
+class QVBoxLayout;
 class TovuButton;
 class TovuQuestionViewModel;
 
@@ -31,10 +32,14 @@ protected:
     /// Takes ownership of `model`.
     TovuQuestionView(TovuQuestionViewModel *model, QWidget *parent);
 
-    /// Shows the model's validation message in `validationLabel`, its action title and
-    /// visibility on `actionButton`, whose taps submit, and shakes `shakeTarget` (the
-    /// page when null) when the model asks.
-    void bindModel(QLabel *validationLabel, TovuButton *actionButton, QWidget *shakeTarget = nullptr);
+    struct Footer {
+        QLabel *validationLabel = nullptr;
+        TovuButton *actionButton = nullptr;
+    };
+    /// Adds the model's validation message and its action button (whose taps submit) to
+    /// `stack`, keeps them in step with the model, and shakes the page, or only the
+    /// message when `shakeMessage`, when the model refuses input.
+    Footer addFooter(QVBoxLayout *stack, bool shakeMessage = false);
     /// The accent for this page: the theme's, else its host window's, else the platform blue.
     QColor accent() const;
     /// Sets every colour from the model's state, the theme and the platform.

@@ -22,23 +22,12 @@ TovuSingleChoiceQuestionView::TovuSingleChoiceQuestionView(TovuSingleChoiceQuest
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
 
-    m_optionsStack = Parts::stack(10);
-    const QStringList texts = m_model->optionTexts();
-    for (int index = 0; index < texts.size(); ++index) {
-        TovuButton *row = Parts::optionRow(texts[index], TovuButton::Accessory::radio, this);
-        row->setTag(index);
-        connect(row, &TovuButton::clicked, this, [this, row] { optionTapped(row); });
-        m_optionsStack->addWidget(row);
-        m_optionRows.append(row);
-    }
+    m_optionsStack = Parts::optionRows(m_model->optionTexts(), TovuButton::Accessory::radio, this, m_optionRows,
+                                       [this](TovuButton *row) { optionTapped(row); });
     outer->addLayout(m_optionsStack);
-
-    m_validationLabel = Parts::validationLabel(m_model->validationMessage(), this);
-    outer->addWidget(m_validationLabel);
-    m_nextButton = Parts::actionButton(m_model->actionTitle(), this);
-    outer->addWidget(m_nextButton);
-
-    bindModel(m_validationLabel, m_nextButton);
+    const Footer footer = addFooter(outer);
+    m_validationLabel = footer.validationLabel;
+    m_nextButton = footer.actionButton;
     connect(m_model, &TovuSingleChoiceQuestionViewModel::selectedIndexChanged, this,
             &TovuSingleChoiceQuestionView::restyle);
     finishBuilding();

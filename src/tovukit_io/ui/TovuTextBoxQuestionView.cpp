@@ -45,12 +45,9 @@ TovuTextBoxQuestionView::TovuTextBoxQuestionView(TovuTextBoxQuestionViewModel *m
     }
     outer->addLayout(m_inputsStack);
 
-    m_validationLabel = Parts::validationLabel(m_model->validationMessage(), this);
-    outer->addWidget(m_validationLabel);
-    m_submitButton = Parts::actionButton(m_model->actionTitle(), this);
-    outer->addWidget(m_submitButton);
-
-    bindModel(m_validationLabel, m_submitButton);
+    const Footer footer = addFooter(outer);
+    m_validationLabel = footer.validationLabel;
+    m_submitButton = footer.actionButton;
     connect(m_model, &TovuTextBoxQuestionViewModel::invalidFieldIndexChanged, this, &TovuTextBoxQuestionView::restyle);
     finishBuilding();
 }

@@ -8,9 +8,7 @@ TovuDropdownQuestionViewModel::TovuDropdownQuestionViewModel(std::optional<TovuQ
 
 std::optional<TovuChoice> TovuDropdownQuestionViewModel::selectedOption() const
 {
-    if (m_selectedIndex < 0)
-        return std::nullopt;
-    return options()[static_cast<std::size_t>(m_selectedIndex)];
+    return optionAt(m_selectedIndex);
 }
 
 QString TovuDropdownQuestionViewModel::selectorTitle() const
@@ -29,7 +27,7 @@ void TovuDropdownQuestionViewModel::toggleExpanded()
 
 void TovuDropdownQuestionViewModel::chooseOption(int index)
 {
-    if (index < 0 || static_cast<std::size_t>(index) >= options().size())
+    if (!optionAt(index))
         return;
     m_selectedIndex = index;
     setValidationVisible(false);
@@ -48,11 +46,5 @@ void TovuDropdownQuestionViewModel::setExpanded(bool expanded)
 
 void TovuDropdownQuestionViewModel::submitQuestion(const TovuQuestion &question)
 {
-    const std::optional<TovuChoice> choice = selectedOption();
-    if (!choice) {
-        if (question.isRequired)
-            refuse();
-        return;
-    }
-    report(TovuAnswer{.questionId = question.id, .value = {{.rowId = choice->id}}});
+    submitChoice(question, selectedOption());
 }

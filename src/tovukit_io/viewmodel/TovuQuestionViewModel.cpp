@@ -51,6 +51,23 @@ const std::vector<TovuChoice> &TovuQuestionViewModel::options() const
     return m_question && m_question->options ? *m_question->options : noOptions;
 }
 
+std::optional<TovuChoice> TovuQuestionViewModel::optionAt(int index) const
+{
+    if (index < 0 || static_cast<std::size_t>(index) >= options().size())
+        return std::nullopt;
+    return options()[static_cast<std::size_t>(index)];
+}
+
+void TovuQuestionViewModel::submitChoice(const TovuQuestion &question, const std::optional<TovuChoice> &choice)
+{
+    if (!choice) {
+        if (question.isRequired)
+            refuse();
+        return;
+    }
+    report(TovuAnswer{.questionId = question.id, .value = {{.rowId = choice->id}}});
+}
+
 QStringList TovuQuestionViewModel::optionTexts() const
 {
     QStringList texts;

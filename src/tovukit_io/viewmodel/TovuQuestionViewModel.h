@@ -79,6 +79,11 @@ protected:
     virtual void submitQuestion(const TovuQuestion &question) = 0;
 
     const std::vector<TovuChoice> &options() const;
+    /// The option at `index`, none outside the options.
+    std::optional<TovuChoice> optionAt(int index) const;
+    /// Reports `choice` as the answer; without one, refuses a required question and
+    /// does nothing for an optional one (it is left through Skip).
+    void submitChoice(const TovuQuestion &question, const std::optional<TovuChoice> &choice);
     /// Shows the validation message and asks for the shake.
     void refuse();
     /// Hands `answer` to `onAnswer`, if set.

@@ -7,14 +7,12 @@ TovuSingleChoiceQuestionViewModel::TovuSingleChoiceQuestionViewModel(std::option
 
 std::optional<TovuChoice> TovuSingleChoiceQuestionViewModel::selectedOption() const
 {
-    if (m_selectedIndex < 0)
-        return std::nullopt;
-    return options()[static_cast<std::size_t>(m_selectedIndex)];
+    return optionAt(m_selectedIndex);
 }
 
 void TovuSingleChoiceQuestionViewModel::selectOption(int index)
 {
-    if (index < 0 || static_cast<std::size_t>(index) >= options().size())
+    if (!optionAt(index))
         return;
     setValidationVisible(false);
     m_selectedIndex = index;
@@ -23,12 +21,5 @@ void TovuSingleChoiceQuestionViewModel::selectOption(int index)
 
 void TovuSingleChoiceQuestionViewModel::submitQuestion(const TovuQuestion &question)
 {
-    const std::optional<TovuChoice> choice = selectedOption();
-    if (!choice) {
-        // An optional question is left through Skip, not through an empty answer.
-        if (question.isRequired)
-            refuse();
-        return;
-    }
-    report(TovuAnswer{.questionId = question.id, .value = {{.rowId = choice->id}}});
+    submitChoice(question, selectedOption());
 }

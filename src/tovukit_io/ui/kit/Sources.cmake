@@ -9,7 +9,6 @@ list(APPEND ui_sources
   kit/TovuFitLabel.cpp
   kit/TovuHairline.cpp
   kit/TovuInputFrame.cpp
-  kit/TovuInputFrame.h
   kit/TovuKitAnimator.cpp
   kit/TovuKitAnimator.h
   kit/TovuKitPainting.cpp
@@ -30,6 +29,7 @@ list(APPEND ui_headers
   kit/TovuEqualWidthLayout.h
   kit/TovuFitLabel.h
   kit/TovuHairline.h
+  kit/TovuInputFrame.h
   kit/TovuLabels.h
   kit/TovuScrollStrip.h
   kit/TovuShake.h

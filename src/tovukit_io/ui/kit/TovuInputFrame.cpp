@@ -1,9 +1,14 @@
-#include "TovuInputFrame.h"
+#include <tovukit_io/ui/kit/TovuInputFrame.h>
 
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
+#include "TovuKitAnimator.h"
 #include "TovuKitPainting.h"
 
+#include <tovukit_io/ui/kit/TovuBoxLook.h>
+
+#include <QEvent>
+#include <QFocusEvent>
 #include <QPalette>
 #include <QWidget>
 
@@ -32,89 +37,169 @@ QColor mix(const QColor &from, const QColor &to, qreal t)
 
 } // namespace
 
-TovuInputFrame::TovuInputFrame(QWidget *widget, qreal cornerRadius, qreal borderWidth)
-    : m_widget(widget)
-    , m_animator(widget, [this](qreal progress) {
-        m_progress = progress;
-        m_widget->update();
-    })
+class TovuInputFrame::Private
 {
-    look.setCornerRadius(cornerRadius);
-    look.setBorderWidth(borderWidth);
+public:
+    explicit Private(QWidget *w)
+        : widget(w)
+        , animator(w, [this](qreal value) {
+            progress = value;
+            widget->update();
+        })
+    { }
+
+    void animateTo(qreal target) { animator.run({progress, target}, focusSeconds, TovuKitAnimator::easeInOut()); }
+    void applyPalette();
+
+    QWidget *widget;
+    TovuKitAnimator animator;
+    TovuBoxLook look;
+    QColor focusBorder;
+    qreal progress = 0;
+    bool focused = false;
+    bool error = false;
+    bool applyingPalette = false;
+};
+
+TovuInputFrame::TovuInputFrame(QWidget *widget, qreal cornerRadius, qreal borderWidth)
+    : d(std::make_unique<Private>(widget))
+{
+    d->look.setCornerRadius(cornerRadius);
+    d->look.setBorderWidth(borderWidth);
 }
 
-QColor TovuInputFrame::resolvedFocusBorder() const
+TovuInputFrame::~TovuInputFrame() = default;
+
+QColor TovuInputFrame::backgroundColor() const
 {
-    return focusBorder.isValid() ? focusBorder : TovuPlatformColors::color(Role::blue);
+    return d->look.resolvedBackground();
+}
+
+void TovuInputFrame::setBackgroundColor(const QColor &color)
+{
+    if (d->look.setBackground(color))
+        d->widget->update();
+}
+
+QColor TovuInputFrame::borderColor() const
+{
+    return d->look.resolvedBorder();
+}
+
+void TovuInputFrame::setBorderColor(const QColor &color)
+{
+    if (d->look.setBorder(color))
+        d->widget->update();
+}
+
+qreal TovuInputFrame::borderWidth() const
+{
+    return d->look.borderWidth;
+}
+
+void TovuInputFrame::setBorderWidth(qreal width)
+{
+    if (d->look.setBorderWidth(width))
+        d->widget->update();
+}
+
+qreal TovuInputFrame::cornerRadius() const
+{
+    return d->look.cornerRadius;
+}
+
+void TovuInputFrame::setCornerRadius(qreal radius)
+{
+    if (d->look.setCornerRadius(radius))
+        d->widget->update();
+}
+
+QColor TovuInputFrame::focusBorderColor() const
+{
+    return d->focusBorder.isValid() ? d->focusBorder : TovuPlatformColors::color(Role::blue);
+}
+
+void TovuInputFrame::setFocusBorderColor(const QColor &color)
+{
+    if (d->focusBorder == color)
+        return;
+    d->focusBorder = color;
+    d->widget->update();
 }
 
 QColor TovuInputFrame::currentBorderColor() const
 {
-    if (m_error)
+    if (d->error)
         return TovuPlatformColors::color(Role::red);
-    return mix(look.resolvedBorder(), resolvedFocusBorder(), m_progress);
+    return mix(d->look.resolvedBorder(), focusBorderColor(), d->progress);
 }
 
 qreal TovuInputFrame::currentBorderWidth() const
 {
-    return look.borderWidth + (focusedBorderWidth - look.borderWidth) * m_progress;
+    return d->look.borderWidth + (focusedBorderWidth - d->look.borderWidth) * d->progress;
 }
 
 bool TovuInputFrame::hasError() const
 {
-    return m_error;
+    return d->error;
 }
 
-bool TovuInputFrame::setHasError(bool error)
+void TovuInputFrame::setHasError(bool error)
 {
-    if (m_error == error)
-        return false;
-    m_error = error;
-    m_widget->update();
-    return true;
+    if (d->error == error)
+        return;
+    d->error = error;
+    d->widget->update();
 }
 
-bool TovuInputFrame::focusIn()
+bool TovuInputFrame::frameFocusIn()
 {
-    if (m_focused)
+    if (d->focused)
         return false;
-    m_focused = true;
+    d->focused = true;
     setHasError(false);
-    animateTo(1);
+    d->animateTo(1);
     return true;
 }
 
-bool TovuInputFrame::focusOut()
+bool TovuInputFrame::frameFocusOut(const QFocusEvent *event)
 {
-    if (!m_focused)
+    // A context menu takes focus for a moment; editing goes on.
+    if (!d->focused || event->reason() == Qt::PopupFocusReason)
         return false;
-    m_focused = false;
-    animateTo(0);
+    d->focused = false;
+    d->animateTo(0);
     return true;
 }
 
-void TovuInputFrame::animateTo(qreal progress)
+void TovuInputFrame::paintFrame(QPainter &painter, const QRectF &rect) const
 {
-    m_animator.run({m_progress, progress}, focusSeconds, TovuKitAnimator::easeInOut());
+    TovuKitPainting::paintBox(painter, rect, d->look.resolvedBackground(), currentBorderColor(), currentBorderWidth(),
+                              d->look.cornerRadius);
 }
 
-void TovuInputFrame::paint(QPainter &painter, const QRectF &rect) const
+void TovuInputFrame::applyFramePalette()
 {
-    TovuKitPainting::paintBox(painter, rect, look.resolvedBackground(), currentBorderColor(), currentBorderWidth(),
-                              look.cornerRadius);
+    d->applyPalette();
 }
 
-void TovuInputFrame::applyPalette()
+void TovuInputFrame::frameChangeEvent(const QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
+        d->applyPalette();
+}
+
+void TovuInputFrame::Private::applyPalette()
 {
     // Setting the palette sends another palette change, which must not come back here.
-    if (m_applyingPalette)
+    if (applyingPalette)
         return;
-    m_applyingPalette = true;
-    QPalette palette = m_widget->palette();
+    applyingPalette = true;
+    QPalette palette = widget->palette();
     palette.setColor(QPalette::Text, TovuPlatformColors::color(Role::label));
     palette.setColor(QPalette::PlaceholderText, TovuPlatformColors::color(Role::secondaryLabel));
     palette.setColor(QPalette::Base, Qt::transparent);
-    m_widget->setPalette(palette);
-    m_applyingPalette = false;
-    m_widget->update();
+    widget->setPalette(palette);
+    applyingPalette = false;
+    widget->update();
 }

@@ -1,55 +1,63 @@
 #pragma once
 
-// The painted frame and colours the kit's text inputs share; not installed.
-
-#include <tovukit_io/ui/kit/TovuBoxLook.h>
-
-#include "TovuKitAnimator.h"
-
 #include <QColor>
+#include <QRectF>
 
+#include <memory>
+
+class QEvent;
+class QFocusEvent;
 class QPainter;
 class QWidget;
 
-/// A TovuBoxLook whose border moves between a resting state and a focused one: on focus
-/// it turns to `focusBorder` at width 2 over 0.2 s, on blur it goes back. An error
-/// paints the border red until the next focus. Unset colours resolve at paint time.
+/// The painted frame the kit's text inputs share (TovuTextField, TovuTextArea), as a
+/// second base next to their Qt widget: a rounded box whose border moves between a
+/// resting state and a focused one. On focus it turns to `focusBorderColor` at width 2
+/// over 0.2 s and any error is cleared; on blur it goes back. An error paints the border
+/// red until the next focus. Unset colours resolve at paint time, so they follow light
+/// and dark; text and placeholder colours follow the palette too.
 class TovuInputFrame
 {
 public:
-    /// `widget` is repainted whenever the frame changes and owns the animation.
-    TovuInputFrame(QWidget *widget, qreal cornerRadius, qreal borderWidth);
-
-    TovuBoxLook look;
-    QColor focusBorder;
-
-    QColor resolvedFocusBorder() const;
-    /// The border as painted now.
+    /// Unset: the platform's system background.
+    QColor backgroundColor() const;
+    void setBackgroundColor(const QColor &color);
+    /// The resting border; unset: system gray 4.
+    QColor borderColor() const;
+    void setBorderColor(const QColor &color);
+    /// The resting border width.
+    qreal borderWidth() const;
+    void setBorderWidth(qreal width);
+    qreal cornerRadius() const;
+    void setCornerRadius(qreal radius);
+    /// The border while focused; unset: the platform blue.
+    QColor focusBorderColor() const;
+    void setFocusBorderColor(const QColor &color);
+    bool hasError() const;
+    void setHasError(bool error);
+    /// The border as painted at this moment (resting, focused, red, or on the way).
     QColor currentBorderColor() const;
     qreal currentBorderWidth() const;
 
-    bool hasError() const;
-    /// Says whether anything changed.
-    bool setHasError(bool error);
-    /// Returns whether the widget just became focused (and should say so).
-    bool focusIn();
-    /// Returns whether the widget just lost focus (and should say so).
-    bool focusOut();
+protected:
+    /// `widget` is the input itself: it is repainted whenever the frame changes.
+    TovuInputFrame(QWidget *widget, qreal cornerRadius, qreal borderWidth);
+    ~TovuInputFrame();
+    TovuInputFrame(const TovuInputFrame &) = delete;
+    TovuInputFrame &operator=(const TovuInputFrame &) = delete;
 
-    void paint(QPainter &painter, const QRectF &rect) const;
-
+    void paintFrame(QPainter &painter, const QRectF &rect) const;
     /// Text in the platform label colour, the placeholder in secondary label, and no
-    /// background of the widget's own (the frame paints it). Call again when the
-    /// palette changes: the platform colours may have changed with it.
-    void applyPalette();
+    /// background of the widget's own (the frame paints it).
+    void applyFramePalette();
+    /// Applies the palette again when it changes: the platform colours may have too.
+    void frameChangeEvent(const QEvent *event);
+    /// Whether the input just gained focus (and should say so).
+    bool frameFocusIn();
+    /// Whether the input just lost focus for good (a context menu's is only a moment).
+    bool frameFocusOut(const QFocusEvent *event);
 
 private:
-    void animateTo(qreal progress);
-
-    QWidget *m_widget;
-    TovuKitAnimator m_animator;
-    qreal m_progress = 0;
-    bool m_focused = false;
-    bool m_error = false;
-    bool m_applyingPalette = false;
+    class Private;
+    std::unique_ptr<Private> d;
 };

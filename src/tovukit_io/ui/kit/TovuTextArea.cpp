@@ -1,7 +1,5 @@
 #include <tovukit_io/ui/kit/TovuTextArea.h>
 
-#include "TovuInputFrame.h"
-
 #include <QEvent>
 #include <QFocusEvent>
 #include <QPainter>
@@ -10,7 +8,7 @@
 
 TovuTextArea::TovuTextArea(QWidget *parent)
     : QPlainTextEdit(parent)
-    , m_frame(std::make_unique<TovuInputFrame>(this, 8, 1))
+    , TovuInputFrame(this, 8, 1)
 {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -21,87 +19,10 @@ TovuTextArea::TovuTextArea(QWidget *parent)
     setTabChangesFocus(true);
     setFixedHeight(90);
     setAttribute(Qt::WA_MacShowFocusRect, false);
-    m_frame->applyPalette();
+    applyFramePalette();
 }
 
 TovuTextArea::~TovuTextArea() = default;
-
-QColor TovuTextArea::backgroundColor() const
-{
-    return m_frame->look.resolvedBackground();
-}
-
-void TovuTextArea::setBackgroundColor(const QColor &color)
-{
-    if (m_frame->look.setBackground(color))
-        update();
-}
-
-QColor TovuTextArea::borderColor() const
-{
-    return m_frame->look.resolvedBorder();
-}
-
-void TovuTextArea::setBorderColor(const QColor &color)
-{
-    if (m_frame->look.setBorder(color))
-        update();
-}
-
-qreal TovuTextArea::borderWidth() const
-{
-    return m_frame->look.borderWidth;
-}
-
-void TovuTextArea::setBorderWidth(qreal width)
-{
-    if (m_frame->look.setBorderWidth(width))
-        update();
-}
-
-qreal TovuTextArea::cornerRadius() const
-{
-    return m_frame->look.cornerRadius;
-}
-
-void TovuTextArea::setCornerRadius(qreal radius)
-{
-    if (m_frame->look.setCornerRadius(radius))
-        update();
-}
-
-QColor TovuTextArea::focusBorderColor() const
-{
-    return m_frame->resolvedFocusBorder();
-}
-
-void TovuTextArea::setFocusBorderColor(const QColor &color)
-{
-    if (m_frame->focusBorder == color)
-        return;
-    m_frame->focusBorder = color;
-    update();
-}
-
-bool TovuTextArea::hasError() const
-{
-    return m_frame->hasError();
-}
-
-void TovuTextArea::setHasError(bool error)
-{
-    m_frame->setHasError(error);
-}
-
-QColor TovuTextArea::currentBorderColor() const
-{
-    return m_frame->currentBorderColor();
-}
-
-qreal TovuTextArea::currentBorderWidth() const
-{
-    return m_frame->currentBorderWidth();
-}
 
 bool TovuTextArea::event(QEvent *event)
 {
@@ -110,7 +31,7 @@ bool TovuTextArea::event(QEvent *event)
     if (event->type() == QEvent::Paint) {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        m_frame->paint(painter, rect());
+        paintFrame(painter, rect());
     }
     return QPlainTextEdit::event(event);
 }
@@ -118,21 +39,19 @@ bool TovuTextArea::event(QEvent *event)
 void TovuTextArea::changeEvent(QEvent *event)
 {
     QPlainTextEdit::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
-        m_frame->applyPalette();
+    frameChangeEvent(event);
 }
 
 void TovuTextArea::focusInEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusInEvent(event);
-    if (m_frame->focusIn())
+    if (frameFocusIn())
         Q_EMIT focused();
 }
 
 void TovuTextArea::focusOutEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusOutEvent(event);
-    // A context menu takes focus for a moment; editing goes on.
-    if (event->reason() != Qt::PopupFocusReason && m_frame->focusOut())
+    if (frameFocusOut(event))
         Q_EMIT blurred();
 }

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <QColor>
+#include <tovukit_io/ui/kit/TovuInputFrame.h>
+
 #include <QPlainTextEdit>
-
-#include <memory>
-
-class TovuInputFrame;
 
 /// A multi-line text input with the look and behaviour of TovuTextField: a painted
 /// rounded frame (radius 8, a 1 border in system gray 4 over the system background),
@@ -20,7 +17,7 @@ class TovuInputFrame;
 /// comment->setPlaceholderText(QStringLiteral("Tell us more\u2026"));
 /// connect(comment, &TovuTextArea::blurred, this, [=] { viewModel->setComment(comment->toPlainText()); });
 /// \endcode
-class TovuTextArea : public QPlainTextEdit
+class TovuTextArea : public QPlainTextEdit, public TovuInputFrame
 {
     Q_OBJECT
     Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
@@ -36,26 +33,6 @@ public:
     explicit TovuTextArea(QWidget *parent = nullptr);
     ~TovuTextArea() override;
 
-    /// Unset: the platform's system background.
-    QColor backgroundColor() const;
-    void setBackgroundColor(const QColor &color);
-    /// The resting border; unset: system gray 4.
-    QColor borderColor() const;
-    void setBorderColor(const QColor &color);
-    /// The resting border width; 1 by default.
-    qreal borderWidth() const;
-    void setBorderWidth(qreal width);
-    qreal cornerRadius() const;
-    void setCornerRadius(qreal radius);
-    /// The border while focused; unset: the platform blue.
-    QColor focusBorderColor() const;
-    void setFocusBorderColor(const QColor &color);
-    bool hasError() const;
-    void setHasError(bool error);
-    /// The border as painted at this moment (resting, focused, red, or on the way).
-    QColor currentBorderColor() const;
-    qreal currentBorderWidth() const;
-
 Q_SIGNALS:
     void focused();
     void blurred();
@@ -65,7 +42,4 @@ protected:
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
-
-private:
-    std::unique_ptr<TovuInputFrame> m_frame;
 };

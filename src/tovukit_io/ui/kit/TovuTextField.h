@@ -1,11 +1,8 @@
 #pragma once
 
-#include <QColor>
+#include <tovukit_io/ui/kit/TovuInputFrame.h>
+
 #include <QLineEdit>
-
-#include <memory>
-
-class TovuInputFrame;
 
 /// A one-line text input with a painted rounded frame: radius 10, a 1.5 border in
 /// system gray 4 over the system background, 14 points of padding left and right, 48
@@ -23,7 +20,7 @@ class TovuInputFrame;
 /// email->setInputMethodHints(Qt::ImhEmailCharactersOnly);
 /// connect(email, &TovuTextField::focused, this, [=] { scrollToField(email); });
 /// \endcode
-class TovuTextField : public QLineEdit
+class TovuTextField : public QLineEdit, public TovuInputFrame
 {
     Q_OBJECT
     Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
@@ -39,26 +36,6 @@ public:
     explicit TovuTextField(QWidget *parent = nullptr);
     ~TovuTextField() override;
 
-    /// Unset: the platform's system background.
-    QColor backgroundColor() const;
-    void setBackgroundColor(const QColor &color);
-    /// The resting border; unset: system gray 4.
-    QColor borderColor() const;
-    void setBorderColor(const QColor &color);
-    /// The resting border width; 1.5 by default.
-    qreal borderWidth() const;
-    void setBorderWidth(qreal width);
-    qreal cornerRadius() const;
-    void setCornerRadius(qreal radius);
-    /// The border while focused; unset: the platform blue.
-    QColor focusBorderColor() const;
-    void setFocusBorderColor(const QColor &color);
-    bool hasError() const;
-    void setHasError(bool error);
-    /// The border as painted at this moment (resting, focused, red, or on the way).
-    QColor currentBorderColor() const;
-    qreal currentBorderWidth() const;
-
 Q_SIGNALS:
     void focused();
     void blurred();
@@ -68,7 +45,4 @@ protected:
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
-
-private:
-    std::unique_ptr<TovuInputFrame> m_frame;
 };
