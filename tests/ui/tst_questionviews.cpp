@@ -21,6 +21,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
 #include <vector>
 
 namespace {
@@ -158,6 +160,7 @@ TEST_F(QuestionViews, MultipleChoiceRowsToggleByTheirOptionId)
     EXPECT_FALSE(view.validationLabel()->isVisible());
     for (const TovuButton *row : view.optionButtons())
         expectRow(row, row->objectName() == QStringLiteral("id-a"), blue);
+    EXPECT_EQ(view.selectedIds(), (std::set<std::string>{"id-a"}));
 
     click(view.nextButton());
     EXPECT_EQ(page.answers, (std::vector<TovuAnswer>{{.questionId = "q7", .value = {{.rowId = "id-a"}}}}));

@@ -52,7 +52,7 @@ void TovuDropdownQuestionView::buildSelector()
     m_dropdownButton->setCornerRadius(12);
     m_dropdownButton->setBorderWidth(1.5);
     m_dropdownButton->setFixedHeight(52);
-    connect(m_dropdownButton, &TovuButton::clicked, m_model, &TovuDropdownQuestionViewModel::toggleExpanded);
+    connect(m_dropdownButton, &TovuButton::clicked, this, &TovuDropdownQuestionView::toggleDropdown);
 
     m_chevron = new TovuChevron(m_dropdownButton);
     m_chevron->setTag(99);
@@ -103,6 +103,16 @@ std::optional<TovuChoice> TovuDropdownQuestionView::selectedOption() const
 bool TovuDropdownQuestionView::isExpanded() const
 {
     return m_model->isExpanded();
+}
+
+void TovuDropdownQuestionView::toggleDropdown()
+{
+    m_model->toggleExpanded();
+}
+
+void TovuDropdownQuestionView::nextTapped()
+{
+    m_model->submit();
 }
 
 void TovuDropdownQuestionView::optionTapped(TovuButton *button)

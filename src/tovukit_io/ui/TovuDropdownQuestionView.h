@@ -47,6 +47,13 @@ public:
     bool isExpanded() const;
     TovuDropdownQuestionViewModel *viewModel() const { return m_model; }
 
+    /// What a tap on the selector does: opens or closes the list.
+    void toggleDropdown();
+    /// What a tap on a list button does: chooses its option; a button not in the list is ignored.
+    void optionTapped(TovuButton *button);
+    /// What a tap on "Next →" does: reports the choice.
+    void nextTapped();
+
 protected:
     void restyle() override;
 
@@ -54,7 +61,6 @@ private:
     TovuDropdownQuestionView(TovuDropdownQuestionViewModel *model, QWidget *parent);
     void buildSelector();
     void buildList();
-    void optionTapped(TovuButton *button);
     void showExpansion();
 
     TovuDropdownQuestionViewModel *m_model = nullptr;

@@ -54,9 +54,17 @@ bool TovuMultipleChoiceQuestionView::isLastQuestion() const
     return m_model->isLastQuestion();
 }
 
-QStringList TovuMultipleChoiceQuestionView::selectedIds() const
+std::set<std::string> TovuMultipleChoiceQuestionView::selectedIds() const
 {
-    return m_model->selectedIds();
+    std::set<std::string> ids;
+    for (const QString &id : m_model->selectedIds())
+        ids.insert(id.toStdString());
+    return ids;
+}
+
+void TovuMultipleChoiceQuestionView::nextTapped()
+{
+    m_model->submit();
 }
 
 void TovuMultipleChoiceQuestionView::optionTapped(TovuButton *row)

@@ -8,6 +8,8 @@
 #include <QStringList>
 
 #include <optional>
+#include <set>
+#include <string>
 
 class QVBoxLayout;
 
@@ -34,16 +36,20 @@ public:
     const QList<TovuButton *> &optionButtons() const { return m_optionButtons; }
     const std::optional<TovuQuestion> &question() const;
     bool isLastQuestion() const;
-    /// The ticked ids, in option order.
-    QStringList selectedIds() const;
+    /// The ticked ids.
+    std::set<std::string> selectedIds() const;
     TovuMultipleChoiceQuestionViewModel *viewModel() const { return m_model; }
+
+    /// What a tap on `row` does: ticks or unticks its option (a tick bounces).
+    void optionTapped(TovuButton *row);
+    /// What a tap on the button does: reports the ticked options, or refuses a required question.
+    void nextTapped();
 
 protected:
     void restyle() override;
 
 private:
     TovuMultipleChoiceQuestionView(TovuMultipleChoiceQuestionViewModel *model, QWidget *parent);
-    void optionTapped(TovuButton *row);
 
     TovuMultipleChoiceQuestionViewModel *m_model = nullptr;
     QLabel *m_titleLabel = nullptr;

@@ -57,6 +57,11 @@ void TovuSingleChoiceQuestionView::optionTapped(TovuButton *row)
         row->tapScale(0.97, 0.08);
 }
 
+void TovuSingleChoiceQuestionView::nextTapped()
+{
+    m_model->submit();
+}
+
 void TovuSingleChoiceQuestionView::restyle()
 {
     const QColor primary = accent();

@@ -40,12 +40,16 @@ public:
     std::optional<TovuChoice> selectedOption() const;
     TovuSingleChoiceQuestionViewModel *viewModel() const { return m_model; }
 
+    /// What a tap on `row` does: chooses its option and bounces it.
+    void optionTapped(TovuButton *row);
+    /// What a tap on the button does: reports the choice, or refuses a required question.
+    void nextTapped();
+
 protected:
     void restyle() override;
 
 private:
     TovuSingleChoiceQuestionView(TovuSingleChoiceQuestionViewModel *model, QWidget *parent);
-    void optionTapped(TovuButton *row);
 
     TovuSingleChoiceQuestionViewModel *m_model = nullptr;
     QLabel *m_titleLabel = nullptr;

@@ -64,9 +64,19 @@ TovuTextField *TovuTextBoxQuestionView::addField(int index)
         field->setInputMethodHints(Qt::ImhEmailCharactersOnly | Qt::ImhNoAutoUppercase);
     connect(field, &QLineEdit::textChanged, m_model,
             [this, index](const QString &text) { m_model->setFieldText(index, text); });
-    connect(field, &TovuTextField::focused, m_model, [this, index] { m_model->fieldFocused(index); });
+    connect(field, &TovuTextField::focused, this, [this, field] { fieldFocused(field); });
     m_textFields.append(field);
     return field;
+}
+
+void TovuTextBoxQuestionView::submitTapped()
+{
+    m_model->submit();
+}
+
+void TovuTextBoxQuestionView::fieldFocused(TovuTextField *field)
+{
+    m_model->fieldFocused(static_cast<int>(m_textFields.indexOf(field)));
 }
 
 const std::optional<TovuQuestion> &TovuTextBoxQuestionView::question() const

@@ -39,6 +39,11 @@ public:
     const std::optional<TovuQuestion> &question() const;
     TovuTextBoxQuestionViewModel *viewModel() const { return m_model; }
 
+    /// What a tap on "Submit" does: reports every field, or refuses a required question.
+    void submitTapped();
+    /// `field` began editing: the message hides, and the field's red mark goes.
+    void fieldFocused(TovuTextField *field);
+
 protected:
     void restyle() override;
 
