@@ -8,14 +8,12 @@
 #include <tovukit_io/ui/TovuTextBoxQuestionView.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 
+#include "TovuPageBench.h"
+
 #include <QApplication>
-#include <QImage>
-#include <QPainter>
 
 #include <benchmark/benchmark.h>
 
-#include <functional>
-#include <memory>
 #include <string>
 
 namespace {
@@ -38,41 +36,24 @@ TovuQuestion question(TovuQuestionType type, int optionCount)
     return q;
 }
 
-// Build, lay out at 350 points wide and paint once into a 2x frame.
-void showPage(benchmark::State &state, const std::function<QWidget *()> &build)
-{
-    QImage frame(QSize(350, 1200) * 2, QImage::Format_ARGB32_Premultiplied);
-    frame.setDevicePixelRatio(2);
-    for (auto _ : state) {
-        std::unique_ptr<QWidget> page(build());
-        page->resize(350, page->heightForWidth(350) > 0 ? page->heightForWidth(350) : page->sizeHint().height());
-        QPainter painter(&frame);
-        page->render(&painter);
-        painter.end();
-        state.PauseTiming();
-        page.reset();
-        state.ResumeTiming();
-    }
-}
-
 void BM_SingleChoice(benchmark::State &state)
 {
     const TovuQuestion q = question(TovuQuestionType::singleChoice, static_cast<int>(state.range(0)));
-    showPage(state, [&q] { return new TovuSingleChoiceQuestionView(q, false); });
+    TovuPageBench::showPage(state, [&q] { return new TovuSingleChoiceQuestionView(q, false); });
 }
 BENCHMARK(BM_SingleChoice)->Arg(4)->Arg(30)->Unit(benchmark::kMicrosecond);
 
 void BM_MultipleChoice(benchmark::State &state)
 {
     const TovuQuestion q = question(TovuQuestionType::multipleChoice, static_cast<int>(state.range(0)));
-    showPage(state, [&q] { return new TovuMultipleChoiceQuestionView(q, false); });
+    TovuPageBench::showPage(state, [&q] { return new TovuMultipleChoiceQuestionView(q, false); });
 }
 BENCHMARK(BM_MultipleChoice)->Arg(4)->Arg(30)->Unit(benchmark::kMicrosecond);
 
 void BM_Dropdown(benchmark::State &state)
 {
     const TovuQuestion q = question(TovuQuestionType::dropdown, static_cast<int>(state.range(0)));
-    showPage(state, [&q] { return new TovuDropdownQuestionView(q); });
+    TovuPageBench::showPage(state, [&q] { return new TovuDropdownQuestionView(q); });
 }
 BENCHMARK(BM_Dropdown)->Arg(5)->Arg(200)->Unit(benchmark::kMicrosecond);
 
@@ -80,20 +61,10 @@ void BM_TextBox(benchmark::State &state)
 {
     const bool multiple = state.range(0) > 1;
     const TovuQuestion q = question(multiple ? TovuQuestionType::multipleTextBox : TovuQuestionType::singleTextBox, 0);
-    showPage(state, [&q] { return new TovuTextBoxQuestionView(q); });
+    TovuPageBench::showPage(state, [&q] { return new TovuTextBoxQuestionView(q); });
 }
 BENCHMARK(BM_TextBox)->Arg(1)->Arg(3)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 
-int main(int argc, char **argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    TovuMotion::setDurationScale(0);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+TOVU_PAGE_BENCH_MAIN()

@@ -19,6 +19,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "TovuPageTesting.h"
+
 #include <gtest/gtest.h>
 
 #include <set>
@@ -50,34 +52,8 @@ const std::vector<TovuChoice> abc{{.id = "id-a", .text = "Alpha", .value = "a"},
                                   {.id = "id-b", .text = "Beta", .value = "b"},
                                   {.id = "id-c", .text = "Gamma", .value = "c"}};
 
-// A page shown at phone width inside a host window, with its answers recorded.
-template<class View>
-struct Shown {
-    QWidget host;
-    View *view;
-    std::vector<TovuAnswer> answers;
-
-    explicit Shown(View *page)
-        : view(page)
-    {
-        auto *layout = new QVBoxLayout(&host);
-        layout->addWidget(view);
-        layout->addStretch();
-        host.resize(350, 700);
-        host.show();
-        // Fields take focus only in the active window.
-        host.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&host));
-        view->onAnswer = [this](const TovuAnswer &answer) {
-            answers.push_back(answer);
-        };
-    }
-};
-
-void click(QWidget *widget)
-{
-    QTest::mouseClick(widget, Qt::LeftButton);
-}
+using TovuPageTesting::click;
+using TovuPageTesting::Shown;
 
 class QuestionViews : public testing::Test
 {

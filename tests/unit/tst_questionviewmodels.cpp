@@ -12,6 +12,8 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
+#include "TovuViewModelTesting.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -35,19 +37,7 @@ TovuQuestion question(TovuQuestionType type, bool required, std::optional<std::v
     return TovuQuestion{.id = "q1", .type = type, .title = "Title", .isRequired = required, .options = options};
 }
 
-// Every answer a model reports, and whether it asked for a shake.
-struct Recorder {
-    std::vector<TovuAnswer> answers;
-    int shakes = 0;
-
-    void attach(TovuQuestionViewModel &model)
-    {
-        model.onAnswer = [this](const TovuAnswer &answer) {
-            answers.push_back(answer);
-        };
-        QObject::connect(&model, &TovuQuestionViewModel::shakeRequested, [this] { ++shakes; });
-    }
-};
+using TovuViewModelTesting::Recorder;
 
 std::vector<std::string> rowIds(const TovuAnswer &answer)
 {
@@ -56,34 +46,6 @@ std::vector<std::string> rowIds(const TovuAnswer &answer)
         ids.push_back(value.rowId);
     return ids;
 }
-
-bool isUpperCaseUuid(const std::string &text)
-{
-    static const QRegularExpression uuid(
-        QStringLiteral("^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"));
-    return uuid.match(QString::fromStdString(text)).hasMatch();
-}
-
-// The layer serves Qt Quick apps too, which run a QGuiApplication where no widget can exist.
-class GuiApplicationOnly : public testing::Environment
-{
-public:
-    void SetUp() override
-    {
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        m_application = std::make_unique<QGuiApplication>(m_argc, m_argv.data());
-    }
-    void TearDown() override { m_application.reset(); }
-
-private:
-    int m_argc = 1;
-    char m_name[5] = "test";
-    std::array<char *, 2> m_argv{m_name, nullptr};
-    std::unique_ptr<QGuiApplication> m_application;
-};
-
-const testing::Environment *const guiApplication = testing::AddGlobalTestEnvironment(new GuiApplicationOnly);
 
 } // namespace
 
@@ -285,7 +247,7 @@ TEST(TextBoxViewModel, SingleFieldIsReportedAsTypedWithAFreshRowId)
     EXPECT_EQ(value.text, "  hi ");
     EXPECT_EQ(value.type, "text");
     EXPECT_FALSE(value.colId);
-    EXPECT_TRUE(isUpperCaseUuid(value.rowId)) << value.rowId;
+    EXPECT_TRUE(TovuViewModelTesting::isUpperCaseUuid(value.rowId)) << value.rowId;
     EXPECT_NE(recorder.answers[1].value.at(0).rowId, value.rowId) << "a new id on every submit";
 
     TovuQuestion custom = question(TovuQuestionType::singleTextBox, false, std::nullopt);
@@ -331,7 +293,7 @@ TEST(TextBoxViewModel, MultipleFieldsComeFromOptionsOrTheDefaults)
     for (const TovuAnswer &answer : twice.answers) {
         ASSERT_EQ(answer.value.size(), 3u);
         for (const TovuAnswerValue &value : answer.value) {
-            EXPECT_TRUE(isUpperCaseUuid(value.rowId));
+            EXPECT_TRUE(TovuViewModelTesting::isUpperCaseUuid(value.rowId));
             EXPECT_EQ(value.text, "");
             EXPECT_FALSE(value.type);
             ids.insert(value.rowId);

@@ -11,16 +11,7 @@
 
 namespace {
 
-std::vector<TovuChoice> choices(std::initializer_list<const char *> texts)
-{
-    std::vector<TovuChoice> result;
-    int index = 0;
-    for (const char *text : texts) {
-        const std::string id = "opt-" + std::to_string(++index);
-        result.push_back({.id = id, .text = text, .value = id});
-    }
-    return result;
-}
+constexpr auto choices = &TovuQuestionSamples::choices;
 
 TovuQuestion singleChoice()
 {
@@ -28,7 +19,7 @@ TovuQuestion singleChoice()
             .type = TovuQuestionType::singleChoice,
             .title = "How was the delivery of your order?",
             .isRequired = true,
-            .options = choices({"Faster than expected", "On time", "A little late", "Very late"})};
+            .options = choices("opt-", {"Faster than expected", "On time", "A little late", "Very late"})};
 }
 
 TovuQuestion multipleChoice()
@@ -37,7 +28,7 @@ TovuQuestion multipleChoice()
             .type = TovuQuestionType::multipleChoice,
             .title = "Which features do you use most?",
             .isRequired = true,
-            .options = choices({"Order tracking", "Wish list", "Saved payment methods", "Gift cards"})};
+            .options = choices("opt-", {"Order tracking", "Wish list", "Saved payment methods", "Gift cards"})};
 }
 
 TovuQuestion dropdown()
@@ -47,7 +38,7 @@ TovuQuestion dropdown()
             .title = "Where do you usually shop with us?",
             .placeholder = "Choose a city",
             .isRequired = true,
-            .options = choices({"Amsterdam", "Berlin", "Lisbon", "Nairobi", "Toronto"})};
+            .options = choices("opt-", {"Amsterdam", "Berlin", "Lisbon", "Nairobi", "Toronto"})};
 }
 
 TovuQuestion textBox()
@@ -58,18 +49,23 @@ TovuQuestion textBox()
             .isRequired = true};
 }
 
-template<class View>
-View *as(QWidget *page)
+} // namespace
+
+std::vector<TovuChoice> TovuQuestionSamples::choices(const char *prefix, std::initializer_list<const char *> texts)
 {
-    return static_cast<View *>(page);
+    std::vector<TovuChoice> result;
+    int index = 0;
+    for (const char *text : texts) {
+        const std::string id = prefix + std::to_string(++index);
+        result.push_back({.id = id, .text = text, .value = id});
+    }
+    return result;
 }
 
-void tap(QWidget *widget)
+void TovuQuestionSamples::tap(QWidget *widget)
 {
     QTest::mouseClick(widget, Qt::LeftButton);
 }
-
-} // namespace
 
 std::vector<TovuQuestionSamples::Shot> TovuQuestionSamples::shots()
 {

@@ -10,6 +10,8 @@
 
 #include "TovuKitSampleSheet.h"
 #include "TovuQuestionSamples.h"
+#include "TovuRatingSamples.h"
+#include "TovuScoreSamples.h"
 
 #include <tovukit_io/ui/TovuIntroView.h>
 #include <tovukit_io/ui/TovuThankYouView.h>
@@ -25,8 +27,10 @@
 #include <QPalette>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <iterator>
 #include <memory>
 
 namespace {
@@ -157,7 +161,10 @@ int main(int argc, char **argv)
         ok &= shoot(file("sheet-long"), std::nullopt, longPage);
         ok &= shoot(file("sheet-themed"), themedSurvey(), [&] { return new TovuIntroView(intro); });
         ok &= shootKit(file("kit"));
-        for (const TovuQuestionSamples::Shot &shot : TovuQuestionSamples::shots())
+        std::vector<TovuQuestionSamples::Shot> shots = TovuQuestionSamples::shots();
+        std::ranges::move(TovuScoreSamples::shots(), std::back_inserter(shots));
+        std::ranges::move(TovuRatingSamples::shots(), std::back_inserter(shots));
+        for (const TovuQuestionSamples::Shot &shot : shots)
             ok &= shoot(file(shot.name), std::nullopt, shot.makePage, shot.act);
     }
     return ok ? 0 : 1;

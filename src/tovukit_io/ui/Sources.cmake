@@ -23,3 +23,25 @@ list(APPEND ui_headers
   TovuQuestionView.h
   TovuSingleChoiceQuestionView.h
   TovuTextBoxQuestionView.h)
+
+# Pieces the score and rating pages share.
+list(APPEND ui_sources
+  TovuFollowUpCard.cpp)
+list(APPEND ui_headers
+  TovuFollowUpCard.h)
+
+# Score and rating views.
+list(APPEND ui_sources
+  TovuRatingParts.cpp
+  TovuRatingParts.h
+  TovuScaleParts.cpp
+  TovuScaleParts.h
+  TovuMultiNPSQuestionView.cpp
+  TovuMultiRatingQuestionView.cpp
+  TovuNPSQuestionView.cpp
+  TovuRatingQuestionView.cpp)
+list(APPEND ui_headers
+  TovuMultiNPSQuestionView.h
+  TovuMultiRatingQuestionView.h
+  TovuNPSQuestionView.h
+  TovuRatingQuestionView.h)

@@ -22,3 +22,17 @@ list(APPEND viewmodel_headers
   TovuQuestionViewModel.h
   TovuSingleChoiceQuestionViewModel.h
   TovuTextBoxQuestionViewModel.h)
+
+# Score and rating pages.
+list(APPEND viewmodel_sources
+  TovuMultiNPSQuestionViewModel.cpp
+  TovuMultiRatingQuestionViewModel.cpp
+  TovuNPSBands.cpp
+  TovuNPSQuestionViewModel.cpp
+  TovuRatingQuestionViewModel.cpp)
+list(APPEND viewmodel_headers
+  TovuMultiNPSQuestionViewModel.h
+  TovuMultiRatingQuestionViewModel.h
+  TovuNPSBands.h
+  TovuNPSQuestionViewModel.h
+  TovuRatingQuestionViewModel.h)

@@ -58,6 +58,29 @@ std::optional<TovuChoice> TovuQuestionViewModel::optionAt(int index) const
     return options()[static_cast<std::size_t>(index)];
 }
 
+std::string TovuQuestionViewModel::scaleRowId() const
+{
+    return options().empty() ? freshId().toStdString() : options().front().id;
+}
+
+std::string TovuQuestionViewModel::scaleColumnId(std::size_t index, std::int64_t value) const
+{
+    if (m_question && m_question->columns && index < m_question->columns->size())
+        return (*m_question->columns)[index].id;
+    return std::to_string(value);
+}
+
+const TovuConditionalFollowUp *TovuQuestionViewModel::conditionalFollowUpFor(std::int64_t score) const
+{
+    if (!m_question || !m_question->conditionalFollowUps)
+        return nullptr;
+    for (const TovuConditionalFollowUp &followUp : *m_question->conditionalFollowUps) {
+        if (followUp.minRating <= score && score <= followUp.maxRating)
+            return &followUp;
+    }
+    return nullptr;
+}
+
 void TovuQuestionViewModel::submitChoice(const TovuQuestion &question, const std::optional<TovuChoice> &choice)
 {
     if (!choice) {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -81,6 +82,15 @@ protected:
     const std::vector<TovuChoice> &options() const;
     /// The option at `index`, none outside the options.
     std::optional<TovuChoice> optionAt(int index) const;
+    /// The row id of a scale's answer: the first option's id, else a fresh random id
+    /// (new on every call).
+    std::string scaleRowId() const;
+    /// The column id of the scale point at `index` (0-based): that column's id when the
+    /// question has one there, else `value` in decimal.
+    std::string scaleColumnId(std::size_t index, std::int64_t value) const;
+    /// The first conditional follow-up, in list order, whose range holds `score` (both
+    /// ends included); none without a question, a list or a match.
+    const TovuConditionalFollowUp *conditionalFollowUpFor(std::int64_t score) const;
     /// Reports `choice` as the answer; without one, refuses a required question and
     /// does nothing for an optional one (it is left through Skip).
     void submitChoice(const TovuQuestion &question, const std::optional<TovuChoice> &choice);

@@ -1,5 +1,6 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 
+#include <tovukit_io/ui/kit/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuSymbol.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
@@ -92,6 +93,7 @@ void TovuButton::syncTitle()
     if (title == m_syncedTitle)
         return;
     m_syncedTitle = title;
+    invalidateSizeCache();
     // Survey text is shown literally: an "&" in it must not become a keyboard shortcut.
     if (!shortcut().isEmpty() && shortcut() == QKeySequence::mnemonic(title))
         setShortcut(QKeySequence());
@@ -184,7 +186,7 @@ void TovuButton::setContentInsets(const QMargins &insets)
     if (m_contentInsets == insets)
         return;
     m_contentInsets = insets;
-    updateGeometry();
+    invalidateSizeCache();
     update();
 }
 
@@ -198,7 +200,7 @@ void TovuButton::setAccessory(Accessory accessory)
     if (m_accessory == accessory)
         return;
     m_accessory = accessory;
-    updateGeometry();
+    invalidateSizeCache();
     update();
 }
 
@@ -228,7 +230,7 @@ void TovuButton::setAccessorySize(qreal size)
     if (m_accessorySize == size)
         return;
     m_accessorySize = size;
-    updateGeometry();
+    invalidateSizeCache();
     update();
 }
 
@@ -243,7 +245,7 @@ void TovuButton::setAccessoryInset(qreal inset)
     if (m_accessoryInset == inset)
         return;
     m_accessoryInset = inset;
-    updateGeometry();
+    invalidateSizeCache();
     update();
 }
 
@@ -355,28 +357,42 @@ int TovuButton::textHeight(int width) const
         .height();
 }
 
+void TovuButton::invalidateSizeCache()
+{
+    m_cachedTextWidth = -1;
+    m_cachedHeightWidth = -1;
+    updateGeometry();
+}
+
 int TovuButton::heightForWidth(int width) const
 {
+    if (width == m_cachedHeightWidth)
+        return m_cachedHeight;
     const QMargins insets = visualInsets();
     int content = textHeight(width);
     if (m_accessory != Accessory::none)
         content = std::max(content, static_cast<int>(std::ceil(accessorySize())));
-    return content + insets.top() + insets.bottom();
+    m_cachedHeightWidth = width;
+    m_cachedHeight = content + insets.top() + insets.bottom();
+    return m_cachedHeight;
 }
 
 bool TovuButton::hasHeightForWidth() const
 {
-    return true;
+    // A button of fixed height has nothing to ask its width about.
+    return minimumHeight() != maximumHeight();
 }
 
 QSize TovuButton::sizeHint() const
 {
     ensurePolished();
-    const QFontMetrics metrics(font());
+    if (m_cachedTextWidth < 0) {
+        // One line per paragraph: wrapping only starts when the layout gives less.
+        const QFontMetrics metrics(font());
+        m_cachedTextWidth = text().isEmpty() ? 0 : metrics.boundingRect(QRect(), Qt::AlignLeft, text()).width() + 1;
+    }
     const QMargins insets = visualInsets();
-    // One line per paragraph: wrapping only starts when the layout gives less.
-    const int textWidth = text().isEmpty() ? 0 : metrics.boundingRect(QRect(), Qt::AlignLeft, text()).width() + 1;
-    const int width = insets.left() + insets.right() + textWidth;
+    const int width = insets.left() + insets.right() + m_cachedTextWidth;
     return QSize(width, heightForWidth(width));
 }
 
@@ -428,9 +444,13 @@ void TovuButton::paintLabel(QPainter &painter, const QRectF &contentRect)
 {
     if (text().isEmpty())
         return;
+    painter.setLayoutDirection(layoutDirection());
+    if (TovuEmoji::isEmojiFont(font())) {
+        TovuEmoji::drawText(painter, contentRect, textFlags(), text(), font(), titleColor());
+        return;
+    }
     painter.setFont(font());
     painter.setPen(titleColor());
-    painter.setLayoutDirection(layoutDirection());
     painter.drawText(contentRect, textFlags(), text());
 }
 
@@ -472,7 +492,9 @@ void TovuButton::changeEvent(QEvent *event)
     QAbstractButton::changeEvent(event);
     switch (event->type()) {
     case QEvent::LayoutDirectionChange:
-        updateGeometry();
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        invalidateSizeCache();
         update();
         break;
     case QEvent::PaletteChange:

@@ -137,6 +137,7 @@ private:
     int textFlags() const;
     QMargins visualInsets() const;
     int textHeight(int width) const;
+    void invalidateSizeCache();
 
     TovuBoxLook m_look;
     QColor m_titleColor;
@@ -152,5 +153,9 @@ private:
     bool m_keyboardFocus = false;
     QString m_syncedTitle;
     QString m_autoAccessibleName;
+    // Layouts ask for sizes many times per pass; measuring text is the dear part.
+    mutable int m_cachedTextWidth = -1;
+    mutable int m_cachedHeightWidth = -1;
+    mutable int m_cachedHeight = 0;
     std::unique_ptr<TovuKitAnimator> m_tapAnimator;
 };

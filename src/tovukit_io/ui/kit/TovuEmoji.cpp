@@ -1,7 +1,13 @@
 #include <tovukit_io/ui/kit/TovuEmoji.h>
 
+#include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QPaintDevice>
+#include <QPainter>
+#include <QPixmap>
+#include <QPixmapCache>
 #include <QStringList>
+#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -29,4 +35,40 @@ QFont TovuEmoji::withEmoji(const QFont &base)
     QFont result = base;
     result.setFamilies(families);
     return result;
+}
+
+bool TovuEmoji::isEmojiFont(const QFont &font)
+{
+    return font.families().value(0) == family();
+}
+
+void TovuEmoji::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text, const QFont &font,
+                         const QColor &color)
+{
+    // Scaled or rotated, the picture would be resampled: draw the glyphs themselves.
+    if (painter.worldTransform().type() > QTransform::TxTranslate || !painter.device()) {
+        painter.setFont(font);
+        painter.setPen(color);
+        painter.drawText(rect, flags, text);
+        return;
+    }
+    const qreal dpr = painter.device()->devicePixelRatioF();
+    const QSizeF size = QFontMetricsF(font).boundingRect(QRectF(), Qt::AlignLeft, text).size();
+    const QString key = QStringLiteral("tovu-emoji/%1/%2/%3/%4").arg(text, font.key()).arg(color.rgba()).arg(dpr);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap((size * dpr).toSize().expandedTo(QSize(1, 1)));
+        picture.setDevicePixelRatio(dpr);
+        picture.fill(Qt::transparent);
+        QPainter p(&picture);
+        p.setRenderHint(QPainter::TextAntialiasing);
+        p.setFont(font);
+        p.setPen(color);
+        p.drawText(QRectF(QPointF(), size), Qt::AlignCenter, text);
+        p.end();
+        QPixmapCache::insert(key, picture);
+    }
+    const auto alignment = Qt::Alignment(flags) & (Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask);
+    const QRect target = QStyle::alignedRect(painter.layoutDirection(), alignment, size.toSize(), rect.toAlignedRect());
+    painter.drawPixmap(QRectF(target.topLeft(), size), picture, QRectF(picture.rect()));
 }

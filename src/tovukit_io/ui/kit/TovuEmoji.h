@@ -1,6 +1,11 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
+#include <QRectF>
+#include <QString>
+
+class QPainter;
 
 /// Fonts for emoji faces. Without a colour emoji font first in the family list, the
 /// system font's fallback may draw some faces as black outlines; with "Noto Color
@@ -21,6 +26,13 @@ public:
     static QFont withEmoji(const QFont &base);
     /// The family put first.
     static QString family();
+    /// Whether `font` puts the colour emoji family first.
+    static bool isEmojiFont(const QFont &font);
+    /// Draws `text` in `font` within `rect` as QPainter::drawText does with `flags`, from a
+    /// picture made once per text, font, colour and pixel ratio: Qt keeps no glyph cache
+    /// for glyphs this large and would decode the colour bitmaps again on every paint.
+    static void drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text, const QFont &font,
+                         const QColor &color);
 
     TovuEmoji() = delete;
 };

@@ -1,10 +1,15 @@
 #include "TovuKitPainting.h"
 
+#include <QPaintDevice>
 #include <QPainter>
 #include <QPen>
+#include <QPixmap>
+#include <QPixmapCache>
+#include <QString>
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace TovuKitPainting {
 
@@ -26,11 +31,11 @@ QPainterPath roundedRect(const QRectF &rect, qreal radius)
     return path;
 }
 
-void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border, qreal borderWidth,
-              qreal radius)
+namespace {
+
+void paintBoxDirectly(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border,
+                      qreal borderWidth, qreal radius)
 {
-    if (rect.isEmpty())
-        return;
     const qreal r = effectiveRadius(rect.size(), radius);
     if (background.alpha() > 0)
         painter.fillPath(roundedRect(rect, r), background);
@@ -41,6 +46,74 @@ void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, c
         pen.setJoinStyle(Qt::MiterJoin);
         painter.strokePath(roundedRect(rect.adjusted(half, half, -half, -half), std::max<qreal>(0, r - half)), pen);
     }
+}
+
+// Rows of option buttons, scales of score buttons and grids of stars share a handful of
+// looks: each is drawn once into a cached picture, since filling and stroking
+// antialiased paths is the dearest part of painting a page.
+constexpr qreal largestCachedSide = 512;
+
+bool isWhole(qreal value)
+{
+    return std::abs(value - std::round(value)) < 1e-6;
+}
+
+// Only where the picture lands on whole device pixels: anywhere else it would be
+// resampled, and drawing the shape itself is sharper.
+bool canUseCache(const QPainter &painter, const QRectF &rect)
+{
+    if (painter.worldTransform().type() > QTransform::TxTranslate || !painter.device())
+        return false;
+    if (rect.width() > largestCachedSide || rect.height() > largestCachedSide)
+        return false;
+    const qreal dpr = painter.device()->devicePixelRatioF();
+    const QPointF origin = painter.worldTransform().map(rect.topLeft()) * dpr;
+    return isWhole(origin.x()) && isWhole(origin.y()) && isWhole(rect.width() * dpr) && isWhole(rect.height() * dpr);
+}
+
+QString boxKey(const QColor &background, const QColor &border, qreal borderWidth, qreal radius)
+{
+    return QStringLiteral("tovu-box/%1/%2/%3/%4")
+        .arg(background.rgba(), 0, 16)
+        .arg(border.rgba(), 0, 16)
+        .arg(borderWidth)
+        .arg(radius);
+}
+
+} // namespace
+
+void paintCached(QPainter &painter, const QRectF &rect, const QString &key,
+                 const std::function<void(QPainter &, const QRectF &)> &paint)
+{
+    if (rect.isEmpty())
+        return;
+    if (!canUseCache(painter, rect)) {
+        paint(painter, rect);
+        return;
+    }
+    const qreal dpr = painter.device()->devicePixelRatioF();
+    const QString sizedKey = key + QStringLiteral("/%1x%2@%3").arg(rect.width()).arg(rect.height()).arg(dpr);
+    QPixmap picture;
+    if (!QPixmapCache::find(sizedKey, &picture)) {
+        picture = QPixmap((rect.size() * dpr).toSize());
+        picture.setDevicePixelRatio(dpr);
+        picture.fill(Qt::transparent);
+        QPainter p(&picture);
+        p.setRenderHint(QPainter::Antialiasing);
+        paint(p, QRectF(QPointF(), rect.size()));
+        p.end();
+        QPixmapCache::insert(sizedKey, picture);
+    }
+    painter.drawPixmap(rect.topLeft(), picture);
+}
+
+void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border, qreal borderWidth,
+              qreal radius)
+{
+    paintCached(painter, rect, boxKey(background, border, borderWidth, radius),
+                [&](QPainter &target, const QRectF &area) {
+                    paintBoxDirectly(target, area, background, border, borderWidth, radius);
+                });
 }
 
 QRegion roundedRegion(const QSize &size, qreal radius)

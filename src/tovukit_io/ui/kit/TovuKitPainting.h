@@ -7,6 +7,9 @@
 #include <QRectF>
 #include <QRegion>
 #include <QSize>
+#include <QString>
+
+#include <functional>
 
 class QPainter;
 
@@ -16,6 +19,12 @@ namespace TovuKitPainting {
 qreal effectiveRadius(const QSizeF &size, qreal radius);
 
 QPainterPath roundedRect(const QRectF &rect, qreal radius);
+
+/// Paints what `paint` draws into `rect` (given a painter and the area to fill), through a
+/// picture cached under `key` and the size, where it lands on whole device pixels
+/// unscaled; directly anywhere else. `key` must name everything the drawing depends on.
+void paintCached(QPainter &painter, const QRectF &rect, const QString &key,
+                 const std::function<void(QPainter &, const QRectF &)> &paint);
 
 /// Background over the whole shape, then the border inside it, like a layer's border.
 void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border, qreal borderWidth,

@@ -1,5 +1,7 @@
 #include <tovukit_io/ui/kit/TovuSymbol.h>
 
+#include "TovuKitPainting.h"
+
 #include <QColor>
 #include <QHash>
 #include <QMutex>
@@ -176,12 +178,17 @@ void TovuSymbol::paint(QPainter &painter, const QRectF &rect, QStringView name, 
         return;
     const QPainterPath &path = symbolPath(name, weight);
     const qreal side = std::min(rect.width(), rect.height());
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(rect.center() - QPointF(side / 2, side / 2));
-    painter.scale(side / unit, side / unit);
-    painter.fillPath(path, color);
-    painter.restore();
+    const QRectF square(rect.center() - QPointF(side / 2, side / 2), QSizeF(side, side));
+    const QString key
+        = QStringLiteral("tovu-symbol/%1/%2/%3").arg(name).arg(static_cast<int>(weight)).arg(color.rgba(), 0, 16);
+    TovuKitPainting::paintCached(painter, square, key, [&path, &color](QPainter &target, const QRectF &area) {
+        target.save();
+        target.setRenderHint(QPainter::Antialiasing);
+        target.translate(area.topLeft());
+        target.scale(area.width() / unit, area.width() / unit);
+        target.fillPath(path, color);
+        target.restore();
+    });
 }
 
 QPixmap TovuSymbol::pixmap(QStringView name, qreal pointSize, QFont::Weight weight, const QColor &color,
