@@ -43,8 +43,8 @@ std::vector<TovuChoice> choices(const char *prefix, int count)
     return result;
 }
 
-using TovuPageTesting::Shown;
 using TovuPageTesting::click;
+using TovuPageTesting::Shown;
 
 TovuSymbolButton *symbol(TovuButton *button)
 {

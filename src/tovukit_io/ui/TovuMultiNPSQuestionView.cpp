@@ -63,7 +63,7 @@ void TovuMultiNPSQuestionView::addRow(const QString &rowId, const QString &text)
     QLabel *low = nullptr;
     QLabel *high = nullptr;
     block->addLayout(TovuScaleParts::buildEndLabels(this, m_model->lowLabel(), m_model->highLabel(),
-                                                         Parts::font(10, QFont::DemiBold), low, high));
+                                                    Parts::font(10, QFont::DemiBold), low, high));
     m_lowLabels.append(low);
     m_highLabels.append(high);
 
@@ -114,7 +114,6 @@ void TovuMultiNPSQuestionView::restyle()
         Parts::restyleTitle(label);
     for (const QList<TovuButton *> &buttons : std::as_const(m_scoreButtons)) {
         const std::string rowId = buttons.constFirst()->objectName().toStdString();
-        TovuScaleParts::restyleScale(buttons,
-                                          [this, &rowId](int score) { return m_model->scoreLook(rowId, score); });
+        TovuScaleParts::restyleScale(buttons, [this, &rowId](int score) { return m_model->scoreLook(rowId, score); });
     }
 }

@@ -33,10 +33,11 @@ TovuNPSQuestionView::TovuNPSQuestionView(TovuNPSQuestionViewModel *model, QWidge
     outer->addWidget(m_titleLabel);
     m_subtitleLabel = TovuScaleParts::buildSubtitle(m_model->subtitle(), this);
     outer->addWidget(m_subtitleLabel);
-    m_npsRow = TovuScaleParts::buildScale(this, TovuScaleParts::ScaleMetrics{}, m_npsButtons, [this](TovuButton *button) { npsTapped(button); });
+    m_npsRow = TovuScaleParts::buildScale(this, TovuScaleParts::ScaleMetrics{}, m_npsButtons,
+                                          [this](TovuButton *button) { npsTapped(button); });
     outer->addLayout(m_npsRow);
-    m_labelsStack = TovuScaleParts::buildEndLabels(this, m_model->lowLabel(), m_model->highLabel(), Parts::font(11, QFont::Normal),
-                                   m_lowLabel, m_highLabel);
+    m_labelsStack = TovuScaleParts::buildEndLabels(this, m_model->lowLabel(), m_model->highLabel(),
+                                                   Parts::font(11, QFont::Normal), m_lowLabel, m_highLabel);
     outer->addLayout(m_labelsStack);
     buildFollowUpCard();
     outer->addWidget(m_followUpCard);

@@ -35,7 +35,7 @@ TovuButton *TovuRatingParts::faceButton(const QString &face, int height, QWidget
 }
 
 QWidget *TovuRatingParts::labelledColumn(TovuButton *button, const QString &text, QWidget *parent,
-                                                QList<QLabel *> &labels)
+                                         QList<QLabel *> &labels)
 {
     auto *column = new QWidget(parent);
     // Only as high as button and label: the row centres it.
@@ -51,7 +51,7 @@ QWidget *TovuRatingParts::labelledColumn(TovuButton *button, const QString &text
 }
 
 void TovuRatingParts::styleSymbol(TovuSymbolButton *button, const QString &symbolName, bool filled,
-                                         const QColor &active)
+                                  const QColor &active)
 {
     button->setSymbolName(symbolName);
     // Unset, the outline follows system gray 3 through light and dark.

@@ -183,7 +183,8 @@ void TovuRatingQuestionView::styleButton(TovuButton *button, const QColor &accen
     const bool selected = m_model->isSelected(rating);
     button->setChecked(rating == m_model->rating()); // what a screen reader calls chosen
     if (isSymbolVariant(m_model->variant())) {
-        TovuRatingParts::styleSymbol(static_cast<TovuSymbolButton *>(button), m_model->symbolName(rating), selected, active);
+        TovuRatingParts::styleSymbol(static_cast<TovuSymbolButton *>(button), m_model->symbolName(rating), selected,
+                                     active);
     } else if (m_model->variant() == TovuRatingVariant::emoji) {
         TovuRatingParts::styleFace(button, selected, Model::emojiSize, Model::chosenEmojiSize);
     } else {

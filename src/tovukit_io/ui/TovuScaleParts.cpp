@@ -12,8 +12,8 @@
 using Parts = TovuQuestionParts;
 
 TovuEqualWidthLayout *TovuScaleParts::buildScale(QWidget *page, const ScaleMetrics &metrics,
-                                                      QList<TovuButton *> &buttons,
-                                                      const std::function<void(TovuButton *)> &tapped)
+                                                 QList<TovuButton *> &buttons,
+                                                 const std::function<void(TovuButton *)> &tapped)
 {
     auto *row = new TovuEqualWidthLayout;
     row->setSpacing(4);
@@ -34,7 +34,7 @@ TovuEqualWidthLayout *TovuScaleParts::buildScale(QWidget *page, const ScaleMetri
 }
 
 void TovuScaleParts::restyleScale(const QList<TovuButton *> &buttons,
-                                       const std::function<TovuNPSBands::Look(int)> &lookOf)
+                                  const std::function<TovuNPSBands::Look(int)> &lookOf)
 {
     for (TovuButton *button : buttons) {
         const TovuNPSBands::Look look = lookOf(button->tag());
@@ -45,8 +45,8 @@ void TovuScaleParts::restyleScale(const QList<TovuButton *> &buttons,
     }
 }
 
-QHBoxLayout *TovuScaleParts::buildEndLabels(QWidget *page, const QString &low, const QString &high,
-                                                 const QFont &font, QLabel *&lowLabel, QLabel *&highLabel)
+QHBoxLayout *TovuScaleParts::buildEndLabels(QWidget *page, const QString &low, const QString &high, const QFont &font,
+                                            QLabel *&lowLabel, QLabel *&highLabel)
 {
     using Band = TovuNPSBands::Band;
     // Fixed red and green, whatever the band overrides say.

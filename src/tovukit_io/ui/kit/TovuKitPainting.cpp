@@ -82,6 +82,21 @@ QString boxKey(const QColor &background, const QColor &border, qreal borderWidth
 
 } // namespace
 
+QRectF pixelAligned(const QPainter &painter, const QPointF &centre, qreal side)
+{
+    const QRectF square(centre - QPointF(side / 2, side / 2), QSizeF(side, side));
+    if (painter.worldTransform().type() > QTransform::TxTranslate || !painter.device())
+        return square;
+    const qreal dpr = painter.device()->devicePixelRatioF();
+    const QPointF offset = painter.worldTransform().map(QPointF());
+    const auto snap = [dpr](qreal value) {
+        return std::round(value * dpr) / dpr;
+    };
+    const qreal snappedSide = std::max(snap(side), 1 / dpr);
+    const QPointF origin(snap(square.left() + offset.x()) - offset.x(), snap(square.top() + offset.y()) - offset.y());
+    return QRectF(origin, QSizeF(snappedSide, snappedSide));
+}
+
 void paintCached(QPainter &painter, const QRectF &rect, const QString &key,
                  const std::function<void(QPainter &, const QRectF &)> &paint)
 {

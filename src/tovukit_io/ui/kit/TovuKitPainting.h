@@ -20,6 +20,10 @@ qreal effectiveRadius(const QSizeF &size, qreal radius);
 
 QPainterPath roundedRect(const QRectF &rect, qreal radius);
 
+/// A square of about `side` centred on `centre`, moved and sized to whole device pixels
+/// where the painter only translates, so a cached picture of it stays sharp.
+QRectF pixelAligned(const QPainter &painter, const QPointF &centre, qreal side);
+
 /// Paints what `paint` draws into `rect` (given a painter and the area to fill), through a
 /// picture cached under `key` and the size, where it lands on whole device pixels
 /// unscaled; directly anywhere else. `key` must name everything the drawing depends on.

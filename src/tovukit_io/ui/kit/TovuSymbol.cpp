@@ -177,8 +177,7 @@ void TovuSymbol::paint(QPainter &painter, const QRectF &rect, QStringView name, 
     if (!isKnown(name) || !rect.isValid() || !color.isValid())
         return;
     const QPainterPath &path = symbolPath(name, weight);
-    const qreal side = std::min(rect.width(), rect.height());
-    const QRectF square(rect.center() - QPointF(side / 2, side / 2), QSizeF(side, side));
+    const QRectF square = TovuKitPainting::pixelAligned(painter, rect.center(), std::min(rect.width(), rect.height()));
     const QString key
         = QStringLiteral("tovu-symbol/%1/%2/%3").arg(name).arg(static_cast<int>(weight)).arg(color.rgba(), 0, 16);
     TovuKitPainting::paintCached(painter, square, key, [&path, &color](QPainter &target, const QRectF &area) {
