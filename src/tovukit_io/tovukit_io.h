@@ -12,6 +12,7 @@
 #include <tovukit_io/model/TovuQuestionType.h>
 #include <tovukit_io/model/TovuQueuedResponse.h>
 #include <tovukit_io/model/TovuQueuedResponseJson.h>
+#include <tovukit_io/model/TovuRatingVariant.h>
 #include <tovukit_io/model/TovuRawValue.h>
 #include <tovukit_io/model/TovuSurvey.h>
 #include <tovukit_io/model/TovuSurveyJson.h>
@@ -31,17 +32,27 @@
 #include <tovukit_io/viewmodel/TovuAppTheme.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuNPSBands.h>
+#include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <tovukit_io/ui/TovuDropdownQuestionView.h>
+#include <tovukit_io/ui/TovuFollowUpCard.h>
 #include <tovukit_io/ui/TovuIntroView.h>
+#include <tovukit_io/ui/TovuMultiNPSQuestionView.h>
+#include <tovukit_io/ui/TovuMultiRatingQuestionView.h>
 #include <tovukit_io/ui/TovuMultipleChoiceQuestionView.h>
+#include <tovukit_io/ui/TovuNPSQuestionView.h>
 #include <tovukit_io/ui/TovuQuestionView.h>
+#include <tovukit_io/ui/TovuRatingQuestionView.h>
 #include <tovukit_io/ui/TovuSingleChoiceQuestionView.h>
 #include <tovukit_io/ui/TovuTextBoxQuestionView.h>
 #include <tovukit_io/ui/TovuThankYouView.h>
