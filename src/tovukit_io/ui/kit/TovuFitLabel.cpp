@@ -1,5 +1,6 @@
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 
+#include <QEvent>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
@@ -42,7 +43,7 @@ void TovuFitLabel::setText(const QString &text)
 {
     QLabel::setText(text);
     setAccessibleName(text);
-    update();
+    forgetFit();
 }
 
 qreal TovuFitLabel::minimumScaleFactor() const
@@ -58,25 +59,51 @@ void TovuFitLabel::setMinimumScaleFactor(qreal factor)
     if (m_minimumScaleFactor == factor)
         return;
     m_minimumScaleFactor = factor;
-    update();
+    forgetFit();
 }
 
 QFont TovuFitLabel::fittedFont() const
 {
-    const QFont natural = font();
+    return fit().font;
+}
+
+const TovuFitLabel::Fit &TovuFitLabel::fit() const
+{
+    // A hidden label hears of no resize: the width is part of what the fit is for.
     const qreal available = contentsRect().width();
-    const qreal width = textWidth(natural, text());
-    if (width <= available || width <= 0)
-        return natural;
+    if (m_fit && m_fit->available == available)
+        return *m_fit;
+    const QFont natural = font();
+    qreal width = textWidth(natural, text());
+    if (width <= available || width <= 0) {
+        m_fit = Fit{natural, width, available};
+        return *m_fit;
+    }
     // Glyph advances do not shrink exactly in proportion (and pixel sizes are whole):
     // step down until it fits or the smallest allowed size is reached.
     qreal scale = std::max(m_minimumScaleFactor, available / width);
     QFont candidate = scaled(natural, scale);
-    while (textWidth(candidate, text()) > available && scale > m_minimumScaleFactor) {
+    width = textWidth(candidate, text());
+    while (width > available && scale > m_minimumScaleFactor) {
         scale = std::max(m_minimumScaleFactor, scale * 0.95);
         candidate = scaled(natural, scale);
+        width = textWidth(candidate, text());
     }
-    return candidate;
+    m_fit = Fit{candidate, width, available};
+    return *m_fit;
+}
+
+void TovuFitLabel::forgetFit()
+{
+    m_fit.reset();
+    update();
+}
+
+void TovuFitLabel::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        forgetFit();
 }
 
 QSize TovuFitLabel::sizeHint() const
@@ -97,9 +124,12 @@ void TovuFitLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     drawFrame(&painter);
     const QRect area = contentsRect();
-    const QFont fitted = fittedFont();
-    painter.setFont(fitted);
-    const QString shown = QFontMetrics(fitted).elidedText(text(), Qt::ElideRight, area.width(), Qt::TextSingleLine);
+    const Fit &fitted = fit();
+    painter.setFont(fitted.font);
+    // Eliding measures the text again: only when even the smallest size is too wide.
+    const QString shown = fitted.textWidth <= area.width()
+        ? text()
+        : QFontMetrics(fitted.font).elidedText(text(), Qt::ElideRight, area.width(), Qt::TextSingleLine);
     const auto flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::TextSingleLine;
     style()->drawItemText(&painter, area, flags, palette(), isEnabled(), shown, foregroundRole());
 }

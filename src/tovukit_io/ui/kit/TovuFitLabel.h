@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include <optional>
+
 /// A one-line plain-text label that fits its text to the width it is given: when the
 /// text is wider, it is drawn in a smaller font, down to `minimumScaleFactor` of the
 /// label's font, and elided only below that. Centred unless aligned otherwise. Its size
@@ -36,7 +38,19 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    struct Fit {
+        QFont font;
+        qreal textWidth = 0;
+        qreal available = -1;
+    };
+    // Measuring text is the dear part of painting a label: the fit is kept until the
+    // text, the font or the width changes.
+    const Fit &fit() const;
+    void forgetFit();
+
     qreal m_minimumScaleFactor = 0.5;
+    mutable std::optional<Fit> m_fit;
 };
