@@ -119,22 +119,6 @@ TEST(NPSBands, OnlySixHexDigitsOverrideABand)
     EXPECT_EQ(TovuNPSBands::colorOf(0, labels), red) << "an override of another band";
 }
 
-TEST(NPSBands, ButtonsLookByBandDarknessAndEmphasis)
-{
-    using Emphasis = TovuNPSBands::Emphasis;
-    const QColor dark(0x10, 0x20, 0x30);
-    const QColor light(0xF0, 0xF0, 0xA0);
-    const auto grey = [](float white) {
-        return QColor::fromRgbF(white, white, white);
-    };
-    const QColor white(Qt::white);
-    EXPECT_EQ(TovuNPSBands::look(dark, Emphasis::resting), (TovuNPSBands::Look{dark, white, dark, 1.5}));
-    EXPECT_EQ(TovuNPSBands::look(light, Emphasis::resting), (TovuNPSBands::Look{light, grey(0.2f), light, 1.5}));
-    EXPECT_EQ(TovuNPSBands::look(light, Emphasis::unselected), (TovuNPSBands::Look{light, grey(0.35f), light, 1.5}));
-    EXPECT_EQ(TovuNPSBands::look(dark, Emphasis::selected), (TovuNPSBands::Look{dark, white, dark, 3.0}));
-    EXPECT_EQ(TovuNPSBands::look(light, Emphasis::selected), (TovuNPSBands::Look{light, grey(0.15f), grey(0.3f), 3.0}));
-}
-
 TEST(NPSViewModel, EachScoreOpensTheFirstMatchingFollowUp)
 {
     struct Case {
@@ -312,18 +296,6 @@ TEST(NPSViewModel, RowAndColumnIdsComeFromOptionsAndColumns)
         EXPECT_TRUE(TovuViewModelTesting::isUpperCaseUuid(first.rowId)) << first.rowId;
         EXPECT_NE(first.rowId, recorder.calls[1].second.value.at(0).rowId) << "a fresh row id on every submit";
     }
-}
-
-TEST(NPSViewModel, WithoutAQuestionNothingIsReported)
-{
-    TovuNPSQuestionViewModel model(std::nullopt, false);
-    Recorder recorder;
-    recorder.attach(model);
-    model.selectScore(5);
-    model.submit();
-    EXPECT_TRUE(recorder.calls.empty());
-    EXPECT_EQ(model.lowLabel(), QStringLiteral("Not likely"));
-    EXPECT_EQ(model.highLabel(), QStringLiteral("Very likely"));
 }
 
 TEST(MultiNPSViewModel, ARequiredPageWantsEveryRowAndReportsInRowOrder)

@@ -33,7 +33,7 @@ TovuMultiNPSQuestionView::TovuMultiNPSQuestionView(TovuMultiNPSQuestionViewModel
     for (qsizetype row = 0; row < ids.size(); ++row)
         addRow(ids[row], texts[row]);
     outer->addLayout(m_rowsStack);
-    const Footer footer = addFooter(outer, true);
+    const Footer footer = addFooter(outer, Refusal::shakeMessage);
     m_validationLabel = footer.validationLabel;
     m_actionButton = footer.actionButton;
     connect(m_model, &TovuMultiNPSQuestionViewModel::selectedScoresChanged, this, &TovuMultiNPSQuestionView::restyle);

@@ -65,7 +65,7 @@ TovuMultiRatingQuestionView::TovuMultiRatingQuestionView(Model *model, QWidget *
         addRow(row, rowIds[row], rowTexts[row]);
     outer->addLayout(m_rowsStack);
 
-    const Footer footer = addFooter(outer, true);
+    const Footer footer = addFooter(outer, Refusal::shakeMessage);
     m_validationLabel = footer.validationLabel;
     m_actionButton = footer.actionButton;
     connect(m_model, &Model::rowRated, this, [this](const QString &rowId, const QString &identifier) {

@@ -41,7 +41,7 @@ TovuNPSQuestionView::TovuNPSQuestionView(TovuNPSQuestionViewModel *model, QWidge
     outer->addLayout(m_labelsStack);
     buildFollowUpCard();
     outer->addWidget(m_followUpCard);
-    m_actionButton = addFooter(outer).actionButton;
+    m_actionButton = addFooter(outer, Refusal::never).actionButton;
 
     connect(m_model, &TovuNPSQuestionViewModel::followUpChanged, this, &TovuNPSQuestionView::showFollowUp);
     connect(m_model, &TovuNPSQuestionViewModel::selectedScoreChanged, this, &TovuNPSQuestionView::restyle);

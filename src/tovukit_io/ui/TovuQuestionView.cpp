@@ -24,13 +24,19 @@ TovuQuestionView::TovuQuestionView(TovuQuestionViewModel *model, QWidget *parent
 
 TovuQuestionView::~TovuQuestionView() = default;
 
-TovuQuestionView::Footer TovuQuestionView::addFooter(QVBoxLayout *stack, bool shakeMessage)
+TovuQuestionView::Footer TovuQuestionView::addFooter(QVBoxLayout *stack, Refusal refusal)
 {
     TovuQuestionViewModel *model = m_baseModel;
-    QLabel *validation = TovuQuestionParts::validationLabel(model->validationMessage(), this);
-    stack->addWidget(validation);
-    connect(model, &TovuQuestionViewModel::validationVisibleChanged, validation,
-            [validation, model] { validation->setVisible(model->isValidationVisible()); });
+    Footer footer;
+    if (refusal != Refusal::never) {
+        QLabel *validation = TovuQuestionParts::validationLabel(model->validationMessage(), this);
+        stack->addWidget(validation);
+        connect(model, &TovuQuestionViewModel::validationVisibleChanged, validation,
+                [validation, model] { validation->setVisible(model->isValidationVisible()); });
+        QWidget *target = refusal == Refusal::shakeMessage ? static_cast<QWidget *>(validation) : this;
+        connect(model, &TovuQuestionViewModel::shakeRequested, target, [target] { TovuShake::shake(target); });
+        footer.validationLabel = validation;
+    }
 
     TovuButton *action = TovuQuestionParts::actionButton(model->actionTitle(), this);
     action->setVisible(model->isActionVisible());
@@ -40,10 +46,8 @@ TovuQuestionView::Footer TovuQuestionView::addFooter(QVBoxLayout *stack, bool sh
     connect(model, &TovuQuestionViewModel::actionVisibleChanged, action,
             [action, model] { action->setVisible(model->isActionVisible()); });
     connect(action, &TovuButton::clicked, model, &TovuQuestionViewModel::submit);
-
-    QWidget *target = shakeMessage ? static_cast<QWidget *>(validation) : this;
-    connect(model, &TovuQuestionViewModel::shakeRequested, target, [target] { TovuShake::shake(target); });
-    return {validation, action};
+    footer.actionButton = action;
+    return footer;
 }
 
 QColor TovuQuestionView::accent() const

@@ -33,13 +33,18 @@ protected:
     TovuQuestionView(TovuQuestionViewModel *model, QWidget *parent);
 
     struct Footer {
-        QLabel *validationLabel = nullptr;
+        QLabel *validationLabel = nullptr; ///< none for a page that never refuses input
         TovuButton *actionButton = nullptr;
     };
-    /// Adds the model's validation message and its action button (whose taps submit) to
-    /// `stack`, keeps them in step with the model, and shakes the page, or only the
-    /// message when `shakeMessage`, when the model refuses input.
-    Footer addFooter(QVBoxLayout *stack, bool shakeMessage = false);
+    /// How a page shows that its model refused the input.
+    enum class Refusal {
+        shakePage, ///< the validation message, and the whole page shakes
+        shakeMessage, ///< the validation message, which shakes alone
+        never, ///< the page always accepts: no message at all
+    };
+    /// Adds the model's validation message (unless the page never refuses) and its action
+    /// button (whose taps submit) to `stack` and keeps them in step with the model.
+    Footer addFooter(QVBoxLayout *stack, Refusal refusal = Refusal::shakePage);
     /// The accent for this page: the theme's, else its host window's, else the platform blue.
     QColor accent() const;
     /// Sets every colour from the model's state, the theme and the platform.

@@ -74,7 +74,7 @@ TovuRatingQuestionView::TovuRatingQuestionView(Model *model, QWidget *parent)
     m_followUpCard = new TovuFollowUpCard(this);
     outer->addWidget(m_followUpCard);
     // The page never refuses: its validation label stays hidden.
-    m_actionButton = addFooter(outer).actionButton;
+    m_actionButton = addFooter(outer, Refusal::never).actionButton;
 
     connect(m_model, &Model::selectedRatingChanged, this, &TovuRatingQuestionView::restyle);
     connect(m_model, &Model::followUpChanged, this, &TovuRatingQuestionView::showFollowUp);

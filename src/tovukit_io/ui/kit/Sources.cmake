@@ -3,6 +3,7 @@ list(APPEND ui_sources
   kit/TovuBox.cpp
   kit/TovuBoxLook.cpp
   kit/TovuButton.cpp
+  kit/TovuButtonScaleEffect.h
   kit/TovuChevron.cpp
   kit/TovuEmoji.cpp
   kit/TovuEqualWidthLayout.cpp
