@@ -13,7 +13,6 @@
 
 namespace TovuPixelTesting {
 
-
 // What QWidget::grab() does, at any device-pixel ratio: children, masks and effects included.
 inline QImage grabAt(QWidget &widget, qreal dpr)
 {
