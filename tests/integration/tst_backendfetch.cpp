@@ -39,6 +39,9 @@ TEST_F(FetchCalls, VerifyFailuresKeepTheTokenAndSayWhy)
         {500, "", "HTTP 500"},
         {404, R"({"data": {"errors": {"detail": "missing"}}})", "missing"},
         {502, "<html>Bad gateway</html>", "HTTP 502"},
+        // Qt files these two under its transport errors; the status still decides.
+        {407, "", "HTTP 407"},
+        {401, "", "HTTP 401"},
         {200, "<html>not json</html>", "Invalid verify response format"},
         {200, "[\"token\"]", "Invalid verify response format"},
         {200, R"({"ok": true, "data": {"id": 1}})", "Bearer token not found in verify response"},

@@ -22,9 +22,12 @@ class TovuNetworkServicePrivate;
 /// verification and the bearer token, collector resolution, survey download,
 /// response submission and lowest-response selection.
 ///
-/// Every call is asynchronous and hands one result to its completion, on the
-/// thread the service lives in (the GUI thread), after the call has returned.
-/// A completion is never called once the service is gone. Each call prints
+/// Every call hands one result to its completion, on the thread the service
+/// lives in (the GUI thread). A call that sends a request completes after it
+/// has returned; one that fails before sending anything (no key or zone, no
+/// bearer token, an invalid URL) completes inside the call, so callers must
+/// not rely on either order. A completion is never called once the service
+/// is gone. Each call prints
 /// its progress as a console block through TovuLog.
 ///
 /// \code

@@ -11,14 +11,16 @@ namespace {
 
 constexpr std::string_view separatorLine = "━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━━";
 
-// A reply with an HTTP status is judged by that status (Qt reports a 400 as a
-// "protocol" error, a 404 as a "content" one). Only a reply without a status,
-// or one whose connection failed (codes below 200) after the status arrived,
-// is a transport error.
-bool isTransportError(const QNetworkReply &reply, bool hasStatus)
+// A reply with an HTTP status is judged by that status: Qt files a 400 as a
+// "protocol" error, a 404 as a "content" one and a 407 as a proxy error, but
+// the server's own answer says more. Only a reply without a status, or a
+// successful status whose transfer broke off (its body is incomplete), is a
+// transport error.
+bool isTransportError(const QNetworkReply &reply, const QVariant &status)
 {
-    const int code = reply.error();
-    return code != QNetworkReply::NoError && (!hasStatus || code < 200);
+    if (reply.error() == QNetworkReply::NoError)
+        return false;
+    return !status.isValid() || (status.toInt() >= 200 && status.toInt() <= 299);
 }
 
 TovuError transportError(const QNetworkReply &reply, std::chrono::milliseconds timeout)
@@ -90,7 +92,7 @@ void TovuNetworkServicePrivate::send(const QByteArray &method, const QUrl &url, 
     QObject::connect(reply, &QNetworkReply::finished, q, [reply, timeout, handler = std::move(handler)] {
         reply->deleteLater();
         const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-        if (isTransportError(*reply, status.isValid())) {
+        if (isTransportError(*reply, status)) {
             handler(std::unexpected(transportError(*reply, timeout)));
             return;
         }
