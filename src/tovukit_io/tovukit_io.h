@@ -73,3 +73,10 @@
 #include <tovukit_io/ui/kit/TovuSymbolButton.h>
 #include <tovukit_io/ui/kit/TovuTextArea.h>
 #include <tovukit_io/ui/kit/TovuTextField.h>
+
+#include <tovukit_io/core/TovuNativeSurveyManager.h>
+#include <tovukit_io/core/TovuOfflineQueue.h>
+#include <tovukit_io/core/TovuResponseAssembly.h>
+#include <tovukit_io/core/TovuSheetPresenter.h>
+#include <tovukit_io/core/TovuSurveyIds.h>
+#include <tovukit_io/core/TovuSurveyPresenter.h>

@@ -1,7 +1,6 @@
 #include <tovukit_io/platform/TovuManualClock.h>
 
 #include <QDateTime>
-#include <QTimeZone>
 
 namespace {
 
@@ -24,7 +23,7 @@ std::string TovuClock::iso8601Now() const
 std::string TovuClock::iso8601(std::int64_t epochMilliseconds)
 {
     // Qt::ISODate writes whole seconds and "Z" for UTC.
-    return QDateTime::fromMSecsSinceEpoch(epochMilliseconds, QTimeZone::utc()).toString(Qt::ISODate).toStdString();
+    return QDateTime::fromMSecsSinceEpoch(epochMilliseconds, Qt::UTC).toString(Qt::ISODate).toStdString();
 }
 
 TovuClock *TovuClock::system()
@@ -39,6 +38,6 @@ TovuManualClock::TovuManualClock(std::int64_t epochMilliseconds)
 
 QTime TovuManualClock::localTime() const
 {
-    const auto utc = QDateTime::fromMSecsSinceEpoch(m_epochMilliseconds, QTimeZone::utc());
+    const auto utc = QDateTime::fromMSecsSinceEpoch(m_epochMilliseconds, Qt::UTC);
     return utc.addSecs(m_utcOffsetSeconds).time();
 }

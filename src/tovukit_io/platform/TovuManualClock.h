@@ -8,7 +8,7 @@ class TovuManualClock : public TovuClock
 {
 public:
     /// Starts at `epochMilliseconds`, with the local time equal to UTC.
-    explicit TovuManualClock(std::int64_t epochMilliseconds = 1'763'230'460'000);
+    explicit TovuManualClock(std::int64_t epochMilliseconds = 1'794'766'460'000);
 
     std::int64_t epochMilliseconds() const override { return m_epochMilliseconds; }
     QTime localTime() const override;

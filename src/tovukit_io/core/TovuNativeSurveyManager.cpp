@@ -1,0 +1,616 @@
+#include <tovukit_io/core/TovuNativeSurveyManagerPrivate.h>
+
+#include <tovukit_io/core/TovuResponseAssembly.h>
+#include <tovukit_io/core/TovuSheetPresenter.h>
+#include <tovukit_io/model/TovuLog.h>
+#include <tovukit_io/model/TovuRatingVariant.h>
+#include <tovukit_io/network/TovuNetworkService.h>
+#include <tovukit_io/platform/TovuClock.h>
+#include <tovukit_io/platform/TovuPathMonitor.h>
+#include <tovukit_io/platform/TovuUserDefaults.h>
+#include <tovukit_io/ui/TovuToasterView.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <QUuid>
+#include <QWidget>
+
+#include <cmath>
+
+namespace {
+
+constexpr std::string_view thankYouAutoId = "thank_you_auto";
+// Sends of a flush start a few per turn of the event loop, so a long queue
+// never holds the GUI thread for more than a frame.
+constexpr std::size_t sendsPerTurn = 16;
+
+std::string freshResponseId()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper().toStdString();
+}
+
+void print(std::string_view line)
+{
+    TovuLog::print(line);
+}
+
+// Runs `fn` on the GUI thread's next turn, unless `context` is gone by then.
+template<class Fn>
+void later(QObject *context, Fn fn)
+{
+    QMetaObject::invokeMethod(context, std::move(fn), Qt::QueuedConnection);
+}
+
+} // namespace
+
+// -- construction ------------------------------------------------------------
+
+TovuNativeSurveyManagerPrivate::TovuNativeSurveyManagerPrivate(TovuNativeSurveyManager *manager,
+                                                               TovuNativeSurveyManager::Dependencies deps)
+    : q(manager)
+    , service(deps.networkService ? *deps.networkService : TovuNetworkService::shared())
+    , store(deps.store)
+    , clock(deps.clock ? *deps.clock : *TovuClock::system())
+    , urlOpener(deps.urlOpener)
+    , ownPresenter(deps.presenter ? nullptr : std::make_unique<TovuSheetPresenter>(deps.urlOpener))
+    , presenter(deps.presenter ? *deps.presenter : *ownPresenter)
+    , ownPathMonitor(deps.pathMonitor ? nullptr : TovuPathMonitor::createDefault())
+    , monitor(deps.pathMonitor ? deps.pathMonitor : ownPathMonitor.get())
+{ }
+
+TovuNativeSurveyManagerPrivate::~TovuNativeSurveyManagerPrivate()
+{
+    presenter.onSkip = nullptr;
+    presenter.onDismissed = nullptr;
+}
+
+TovuNativeSurveyManager &TovuNativeSurveyManager::shared()
+{
+    // Never destroyed: it serves the host until the process ends.
+    static auto *instance = new TovuNativeSurveyManager();
+    return *instance;
+}
+
+TovuNativeSurveyManager::TovuNativeSurveyManager(Dependencies deps, QObject *parent)
+    : QObject(parent)
+    , d(std::make_unique<TovuNativeSurveyManagerPrivate>(this, deps))
+{
+    d->presenter.onDismissed = [this] {
+        d->presenterDismissed();
+    };
+    d->startWatchingConnectivity();
+}
+
+TovuNativeSurveyManager::~TovuNativeSurveyManager() = default;
+
+void TovuNativeSurveyManagerPrivate::startWatchingConnectivity()
+{
+    QObject::connect(monitor, &TovuPathMonitor::pathUpdated, q, [this](TovuPathStatus status) { pathUpdated(status); });
+    monitor->start();
+}
+
+TovuOfflineQueue &TovuNativeSurveyManagerPrivate::queue()
+{
+    // The store is opened on first use, so making the manager costs no disk access.
+    if (!offlineQueue)
+        offlineQueue = std::make_unique<TovuOfflineQueue>(store ? *store : TovuUserDefaults::standard(),
+                                                          std::string(TovuNativeSurveyManager::queueKey));
+    return *offlineQueue;
+}
+
+// -- configuration -------------------------------------------------------------
+
+void TovuNativeSurveyManagerPrivate::configureAccount(std::string apiKey, std::string zone, TovuEnvironment environment)
+{
+    if (QString::fromStdString(zone).startsWith(u"uat-", Qt::CaseInsensitive)) {
+        zone.erase(0, 4);
+        environment = TovuEnvironment::uat;
+    }
+    service.configure(std::move(apiKey), std::move(zone), environment); // also clears the bearer token
+}
+
+void TovuNativeSurveyManager::configure(std::string apiKey, TovuCollectorId collectorId, std::string zone,
+                                        TovuEnvironment environment)
+{
+    d->configureAccount(std::move(apiKey), std::move(zone), environment);
+    d->configuredCollectorId = std::move(collectorId.value);
+    d->survey.reset();
+    d->verifyKey();
+}
+
+void TovuNativeSurveyManager::configure(std::string apiKey, TovuSurveyId surveyId, std::string zone,
+                                        TovuEnvironment environment)
+{
+    d->configureAccount(std::move(apiKey), std::move(zone), environment);
+    d->configuredSurveyId = std::move(surveyId.value);
+    d->survey.reset();
+    d->verifyKey();
+}
+
+void TovuNativeSurveyManager::configure(TovuSurvey survey)
+{
+    d->survey = std::move(survey);
+}
+
+void TovuNativeSurveyManager::configureTheme(TovuAppTheme theme)
+{
+    TovuThemeEngine::shared().configureAppTheme(std::move(theme));
+}
+
+void TovuNativeSurveyManager::configureTheme(QColor primaryColor)
+{
+    TovuThemeEngine::shared().configureAppTheme(primaryColor);
+}
+
+std::optional<TovuTheme> TovuNativeSurveyManager::currentTheme() const
+{
+    return d->survey ? d->survey->theme : std::nullopt;
+}
+
+void TovuNativeSurveyManager::setUser(TovuUserData user)
+{
+    d->userData = std::move(user);
+}
+
+void TovuNativeSurveyManager::clearUser()
+{
+    d->userData.reset();
+}
+
+void TovuNativeSurveyManagerPrivate::verifyKey()
+{
+    service.verifyApiKey([manager = QPointer(q)](TovuResult<std::string> token) {
+        if (!token) {
+            print(">>> Tovu SDK ❌ API key verification failed: " + token.error().localizedDescription());
+            return;
+        }
+        print(">>> Tovu SDK: API key verified ✅ — using Bearer token");
+        if (manager)
+            manager->d->prefetch();
+    });
+}
+
+void TovuNativeSurveyManagerPrivate::keepCollector(const CollectorInfo &collector)
+{
+    resolvedCollectorUUID = collector.uuid;
+    resolvedCollectorMongoId = collector.mongoId;
+}
+
+void TovuNativeSurveyManagerPrivate::prefetch()
+{
+    const auto fetched = [manager = QPointer(q)](TovuResult<TovuSurvey> result) {
+        if (!result || !manager)
+            return; // a failed pre-fetch is silent
+        later(manager, [manager, survey = std::move(*result)]() mutable {
+            print(">>> Tovu SDK: Survey pre-fetched ✅ (" + survey.name + ")");
+            manager->d->survey = std::move(survey);
+        });
+    };
+    if (configuredSurveyId) {
+        service.fetchSurvey(*configuredSurveyId, fetched);
+    } else if (configuredCollectorId) {
+        service.fetchCollector(*configuredCollectorId,
+                               [this, manager = QPointer(q), fetched](TovuResult<CollectorInfo> collector) {
+                                   if (!collector || !manager)
+                                       return;
+                                   keepCollector(*collector);
+                                   service.fetchSurvey(collector->surveyId, fetched);
+                               });
+    }
+}
+
+// -- fetching and presenting -----------------------------------------------------
+
+void TovuNativeSurveyManagerPrivate::refuse(TovuNativeSurveyManager::PresentationRefusal reason)
+{
+    Q_EMIT q->presentationRefused(reason);
+}
+
+void TovuNativeSurveyManager::fetchAndPresentSurvey(QWidget *host)
+{
+    const QPointer<QWidget> weakHost(host);
+    if (d->survey) {
+        later(this, [this, weakHost] { presentSurvey(weakHost); });
+    } else if (d->configuredSurveyId) {
+        d->fetchThenPresent(*d->configuredSurveyId, weakHost);
+    } else if (d->configuredCollectorId) {
+        d->service.fetchCollector(
+            *d->configuredCollectorId, [manager = QPointer(this), weakHost](TovuResult<CollectorInfo> collector) {
+                if (!manager)
+                    return;
+                if (!collector) {
+                    print(">>> Tovu SDK Error [Collector]: " + collector.error().localizedDescription());
+                    manager->d->refuse(PresentationRefusal::fetchFailed);
+                    return;
+                }
+                manager->d->keepCollector(*collector);
+                manager->d->fetchThenPresent(collector->surveyId, weakHost);
+            });
+    } else {
+        print(">>> Tovu SDK Error: Call configure(apiKey:collectorId:zone:) first.");
+        d->refuse(PresentationRefusal::notConfigured);
+    }
+}
+
+void TovuNativeSurveyManagerPrivate::fetchThenPresent(const std::string &surveyId, QPointer<QWidget> host)
+{
+    service.fetchSurvey(surveyId, [manager = QPointer(q), host](TovuResult<TovuSurvey> result) {
+        if (!manager)
+            return;
+        later(manager, [manager, host, result = std::move(result)]() mutable {
+            manager->d->surveyArrived(std::move(result), host);
+        });
+    });
+}
+
+void TovuNativeSurveyManagerPrivate::surveyArrived(TovuResult<TovuSurvey> result, QPointer<QWidget> host)
+{
+    if (!host)
+        return; // the host went away while fetching: nothing to show on
+    if (!result) {
+        print(">>> Tovu SDK Error [Step 4 Survey]: " + result.error().localizedDescription());
+        refuse(TovuNativeSurveyManager::PresentationRefusal::fetchFailed);
+        return;
+    }
+    print(">>> Tovu SDK: Survey fetched: " + result->name + " | projectId=" + result->projectId.value_or("nil"));
+    survey = std::move(*result);
+    q->presentSurvey(host);
+}
+
+void TovuNativeSurveyManager::fetchAndPresentLowestResponseSurvey(std::vector<std::string> surveyIds, QWidget *host)
+{
+    if (surveyIds.empty()) {
+        print(">>> Tovu SDK Error: surveyUUIDs array is empty.");
+        d->refuse(PresentationRefusal::notConfigured);
+        return;
+    }
+    d->service.fetchLowestResponseSurveyId(
+        std::move(surveyIds), [manager = QPointer(this), weakHost = QPointer(host)](TovuResult<std::string> id) {
+            if (!manager || !weakHost)
+                return;
+            if (!id) {
+                print(">>> Tovu SDK Error [Lowest Response]: " + id.error().localizedDescription());
+                manager->d->refuse(PresentationRefusal::fetchFailed);
+                return;
+            }
+            manager->d->fetchThenPresent(*id, weakHost);
+        });
+}
+
+void TovuNativeSurveyManager::startIntercept(double afterDelaySeconds, QWidget *host)
+{
+    if (d->triggerTimer)
+        d->triggerTimer->deleteLater(); // stopped with it: only the newest intercept fires
+    auto *timer = new QTimer(this);
+    timer->setSingleShot(true);
+    const double ms = std::isfinite(afterDelaySeconds) ? std::clamp(afterDelaySeconds * 1000.0, 0.0, 2.0e9) : 0.0;
+    timer->setInterval(static_cast<int>(ms));
+    connect(timer, &QTimer::timeout, this, [this, weakHost = QPointer(host)] {
+        if (!weakHost)
+            return;
+        if (d->survey)
+            presentSurvey(weakHost);
+        else
+            fetchAndPresentSurvey(weakHost);
+    });
+    d->triggerTimer = timer;
+    timer->start();
+}
+
+void TovuNativeSurveyManager::presentSurvey(QWidget *host)
+{
+    if (!d->survey) {
+        print(">>> Tovu SDK Error: No survey configured.");
+        d->refuse(PresentationRefusal::noSurvey);
+        return;
+    }
+    if (!host) {
+        d->refuse(PresentationRefusal::noHostWindow);
+        return;
+    }
+    d->resetSession();
+    if (d->survey->theme)
+        TovuThemeEngine::shared().setTheme(d->survey->theme);
+    if (!d->presenter.present(*d->survey, host)) {
+        d->refuse(PresentationRefusal::noHostWindow);
+        return;
+    }
+    Q_EMIT surveyShown(QString::fromStdString(d->survey->id));
+    const auto &intro = d->survey->introPage;
+    if (intro && intro->enabled) {
+        d->presenter.showIntro(*intro, [manager = QPointer(this)] {
+            if (manager)
+                manager->d->showQuestion(0);
+        });
+        return;
+    }
+    d->showQuestion(0);
+}
+
+// -- the session -------------------------------------------------------------------
+
+void TovuNativeSurveyManagerPrivate::resetSession()
+{
+    currentAnswers.clear();
+    answeredCount = 0;
+    currentQuestionIndex = 0;
+    const std::int64_t now = clock.epochMilliseconds();
+    surveyStartTime = TovuClock::iso8601(now);
+    surveyStartEpoch = now;
+    questionStartEpoch = now;
+    timePerQues.clear();
+    backTrackCount = 0;
+}
+
+void TovuNativeSurveyManager::recordAnswer(TovuAnswer answer)
+{
+    auto &answers = d->currentAnswers;
+    const auto same = std::ranges::find(answers, answer.questionId, &TovuAnswer::questionId);
+    if (same != answers.end())
+        *same = std::move(answer);
+    else
+        answers.push_back(std::move(answer));
+    d->answeredCount = static_cast<int>(answers.size());
+}
+
+bool TovuNativeSurveyManagerPrivate::isLastQuestion() const
+{
+    return survey && currentQuestionIndex == static_cast<int>(survey->questions.size()) - 2;
+}
+
+TovuPageRequest TovuNativeSurveyManagerPrivate::pageRequest(int index)
+{
+    const TovuQuestion &question = survey->questions[static_cast<std::size_t>(index)];
+    TovuPageRequest request{question, isLastQuestion(), ratingVariantFrom(question.ratingStyle), 5, {}, {}};
+    if (question.type == TovuQuestionType::thankYou)
+        return request;
+    const QPointer<TovuNativeSurveyManager> manager(q);
+    request.onAnswer = [manager](const TovuAnswer &answer) {
+        if (!manager)
+            return;
+        manager->recordAnswer(answer);
+        manager->d->next();
+    };
+    if (question.type == TovuQuestionType::nps) {
+        request.onAdditionalAnswer = [manager](const TovuAnswer &answer) {
+            if (manager)
+                manager->recordAnswer(answer);
+        };
+    }
+    return request;
+}
+
+void TovuNativeSurveyManagerPrivate::showQuestion(int index)
+{
+    const int count = survey ? static_cast<int>(survey->questions.size()) : 0;
+    if (!survey || index < 0 || index >= count) {
+        presenter.dismiss();
+        return;
+    }
+    const std::int64_t now = clock.epochMilliseconds();
+    if (currentQuestionIndex >= 0 && currentQuestionIndex < count) {
+        const std::string &leaving = survey->questions[static_cast<std::size_t>(currentQuestionIndex)].id;
+        if (leaving != thankYouAutoId)
+            timePerQues[leaving] = static_cast<double>(now - questionStartEpoch) / 1000.0;
+    }
+    currentQuestionIndex = index;
+    questionStartEpoch = now;
+    presenter.showQuestion(pageRequest(index));
+}
+
+void TovuNativeSurveyManagerPrivate::next()
+{
+    if (!survey)
+        return;
+    const int nextIndex = currentQuestionIndex + 1;
+    if (nextIndex >= static_cast<int>(survey->questions.size())) {
+        endSession("complete");
+        presenter.dismiss();
+        return;
+    }
+    const bool thankYou = survey->questions[static_cast<std::size_t>(nextIndex)].type == TovuQuestionType::thankYou;
+    showQuestion(nextIndex);
+    if (thankYou)
+        endSession("complete"); // the thank-you page stays on screen
+}
+
+void TovuNativeSurveyManagerPrivate::endSession(const std::string &status)
+{
+    if (!survey || currentAnswers.empty())
+        return;
+    const TovuSessionRecord session{survey->id,      resolvedCollectorUUID, currentAnswers, userData,
+                                    surveyStartTime, surveyStartEpoch,      timePerQues,    backTrackCount};
+    const TovuQueuedResponse response = TovuResponseAssembly::assemble(session, status, clock, freshResponseId());
+    currentAnswers.clear();
+    survey.reset(); // the next presentation fetches again
+    verifyKey();
+    for (const auto &line : TovuResponseAssembly::dumpLines(response))
+        print(line);
+    send(service, response, [manager = QPointer(q), response](bool sent) {
+        if (!manager)
+            return;
+        if (sent)
+            Q_EMIT manager->responseSent(QString::fromStdString(response.responseId));
+        else
+            manager->d->enqueue(response);
+    });
+}
+
+void TovuNativeSurveyManagerPrivate::presenterDismissed()
+{
+    Q_EMIT q->surveyDismissed(answeredCount);
+}
+
+// -- sending and the offline queue ----------------------------------------------------
+
+void TovuNativeSurveyManagerPrivate::send(TovuNetworkService &service, const TovuQueuedResponse &response,
+                                          std::function<void(bool)> completion)
+{
+    service.submitResponse(response.surveyId, makeFeedbackRequest(response),
+                           [completion = std::move(completion)](TovuResult<void> result) {
+                               if (!result)
+                                   print(">>> Tovu SDK: Submit failed, queuing for retry -> "
+                                         + result.error().localizedDescription());
+                               completion(result.has_value());
+                           });
+}
+
+void TovuNativeSurveyManagerPrivate::enqueue(const TovuQueuedResponse &response)
+{
+    const std::size_t count = queue().enqueue(response);
+    print(">>> Tovu SDK: Response saved to offline queue (total: " + std::to_string(count) + ")");
+    Q_EMIT q->responseQueued(QString::fromStdString(response.responseId), static_cast<int>(count));
+}
+
+void TovuNativeSurveyManagerPrivate::finishFlush(const std::shared_ptr<FlushState> &state)
+{
+    const std::size_t failed = state->failed.size();
+    const std::size_t sent = state->responses.size() - failed;
+    if (state->manager)
+        state->manager->d->queue().store(state->failed);
+    print(">>> Tovu SDK: Flush done — " + std::to_string(failed) + " failed, " + std::to_string(sent) + " sent");
+    if (state->completion)
+        state->completion(failed == 0);
+    if (state->manager)
+        Q_EMIT state->manager->queueFlushed(static_cast<int>(sent), static_cast<int>(failed));
+}
+
+void TovuNativeSurveyManagerPrivate::flush(std::function<void(bool)> completion)
+{
+    auto state = std::make_shared<FlushState>();
+    state->responses = queue().load();
+    if (state->responses.empty()) {
+        if (completion)
+            completion(true);
+        return;
+    }
+    print(">>> Tovu SDK: Flushing " + std::to_string(state->responses.size()) + " offline response(s)...");
+    state->completion = std::move(completion);
+    state->manager = q;
+    state->service = &service;
+
+    startSends(state);
+}
+
+void TovuNativeSurveyManagerPrivate::startSends(const std::shared_ptr<FlushState> &state)
+{
+    // A few per turn of the event loop; none waits for another to finish.
+    if (!state->service)
+        return;
+    const std::size_t end = std::min(state->started + sendsPerTurn, state->responses.size());
+    while (state->started < end) {
+        const std::size_t index = state->started++;
+        send(*state->service, state->responses[index], [state, index](bool sent) {
+            if (!sent)
+                state->failed.push_back(state->responses[index]);
+            if (++state->completed == state->responses.size())
+                later(QCoreApplication::instance(), [state] { finishFlush(state); });
+        });
+    }
+    // The backend client, not the manager, carries the rest: a flush ends even if the manager goes.
+    if (state->started < state->responses.size())
+        later(state->service, [state] { startSends(state); });
+}
+
+void TovuNativeSurveyManager::flushQueue(std::function<void(bool)> completion)
+{
+    d->flush(std::move(completion));
+}
+
+void TovuNativeSurveyManager::clearQueue()
+{
+    d->queue().clear();
+}
+
+std::vector<TovuQueuedResponse> TovuNativeSurveyManager::getQueuedResponses() const
+{
+    return d->queue().load();
+}
+
+void TovuNativeSurveyManagerPrivate::pathUpdated(TovuPathStatus status)
+{
+    const bool satisfied = status == TovuPathStatus::satisfied;
+    if (satisfied && (wasOffline || !queue().load().empty()))
+        flush(nullptr);
+    wasOffline = !satisfied;
+}
+
+// -- state -----------------------------------------------------------------------------
+
+const std::optional<TovuSurvey> &TovuNativeSurveyManager::survey() const
+{
+    return d->survey;
+}
+const std::optional<std::string> &TovuNativeSurveyManager::configuredSurveyId() const
+{
+    return d->configuredSurveyId;
+}
+const std::optional<std::string> &TovuNativeSurveyManager::configuredCollectorId() const
+{
+    return d->configuredCollectorId;
+}
+const std::string &TovuNativeSurveyManager::resolvedCollectorUUID() const
+{
+    return d->resolvedCollectorUUID;
+}
+const std::string &TovuNativeSurveyManager::resolvedCollectorMongoId() const
+{
+    return d->resolvedCollectorMongoId;
+}
+int TovuNativeSurveyManager::currentQuestionIndex() const
+{
+    return d->currentQuestionIndex;
+}
+TovuToasterView *TovuNativeSurveyManager::toasterView() const
+{
+    return qobject_cast<TovuToasterView *>(d->presenter.sheet());
+}
+QTimer *TovuNativeSurveyManager::triggerTimer() const
+{
+    return d->triggerTimer;
+}
+const std::vector<TovuQueuedResponse> &TovuNativeSurveyManager::responseQueue() const
+{
+    return d->responseQueue;
+}
+const std::string &TovuNativeSurveyManager::surveyStartTime() const
+{
+    return d->surveyStartTime;
+}
+const std::vector<TovuAnswer> &TovuNativeSurveyManager::currentAnswers() const
+{
+    return d->currentAnswers;
+}
+const std::optional<TovuUserData> &TovuNativeSurveyManager::userData() const
+{
+    return d->userData;
+}
+std::int64_t TovuNativeSurveyManager::surveyStartEpoch() const
+{
+    return d->surveyStartEpoch;
+}
+std::int64_t TovuNativeSurveyManager::questionStartEpoch() const
+{
+    return d->questionStartEpoch;
+}
+const std::map<std::string, double> &TovuNativeSurveyManager::timePerQues() const
+{
+    return d->timePerQues;
+}
+int TovuNativeSurveyManager::backTrackCount() const
+{
+    return d->backTrackCount;
+}
+TovuPathMonitor *TovuNativeSurveyManager::pathMonitor() const
+{
+    return d->monitor;
+}
+bool TovuNativeSurveyManager::wasOffline() const
+{
+    return d->wasOffline;
+}
+TovuSurveyPresenter *TovuNativeSurveyManager::presenter() const
+{
+    return &d->presenter;
+}

@@ -1,0 +1,160 @@
+#pragma once
+
+#include <tovukit_io/core/TovuSurveyIds.h>
+#include <tovukit_io/model/TovuAnswer.h>
+#include <tovukit_io/model/TovuQueuedResponse.h>
+#include <tovukit_io/model/TovuSurvey.h>
+#include <tovukit_io/model/TovuUserData.h>
+#include <tovukit_io/network/TovuEnvironment.h>
+#include <tovukit_io/viewmodel/TovuAppTheme.h>
+
+#include <QColor>
+#include <QObject>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QTimer;
+class QWidget;
+class TovuClock;
+class TovuKeyValueStore;
+class TovuNativeSurveyManagerPrivate;
+class TovuNetworkService;
+class TovuPathMonitor;
+class TovuSurveyPresenter;
+class TovuToasterView;
+class TovuUrlOpener;
+
+/// The one object a host drives native surveys through: configuration, the
+/// fetch chain, the delayed intercept, the question-by-question session in a
+/// bottom sheet, the response and the offline queue of responses that could
+/// not be sent yet.
+///
+/// \code
+/// auto &tovu = TovuNativeSurveyManager::shared();
+/// tovu.configure("my-api-key", TovuCollectorId{"c-123"}, "eu", TovuEnvironment::production);
+/// tovu.configureTheme(QColor(0x0A84FF));
+/// QObject::connect(&tovu, &TovuNativeSurveyManager::responseQueued, [](const QString &, int total) {
+///     qInfo() << total << "responses wait for the network";
+/// });
+/// tovu.startIntercept(3.0, mainWindow);   // shows the survey over mainWindow in 3 s
+/// \endcode
+///
+/// Everything runs on the GUI thread and nothing is reported by exception:
+/// progress and failures are console lines (TovuLog), and the signals below
+/// tell a host what happened in code. Responses that cannot be sent are
+/// kept in a persistent queue and sent again when the network comes back.
+class TovuNativeSurveyManager : public QObject
+{
+    Q_OBJECT
+public:
+    /// What the manager works with. Each null member means the library's own:
+    /// the shared backend client, TovuUserDefaults::standard(), the system's
+    /// path monitor, the system clock, the default URL opener and the Widgets
+    /// sheet. Given objects stay owned by the caller and must outlive the manager.
+    struct Dependencies {
+        TovuNetworkService *networkService;
+        TovuKeyValueStore *store;
+        TovuPathMonitor *pathMonitor;
+        TovuClock *clock;
+        TovuUrlOpener *urlOpener;
+        TovuSurveyPresenter *presenter;
+    };
+
+    /// Why a survey was not put on screen.
+    enum class PresentationRefusal {
+        notConfigured, ///< no survey id or collector id was configured
+        noSurvey, ///< presentSurvey() without a survey held
+        noHostWindow, ///< the host is null, gone, or not something the presenter can cover
+        fetchFailed, ///< the collector, the survey or the lowest-response choice could not be fetched
+    };
+    Q_ENUM(PresentationRefusal)
+
+    static constexpr std::string_view queueKey = "com.tovu.offline_responses";
+
+    /// The process-wide manager, made on first use (after the application
+    /// object); it lives until the process ends.
+    static TovuNativeSurveyManager &shared();
+    /// A manager of its own: hosts use shared(); tests give their own parts.
+    explicit TovuNativeSurveyManager(Dependencies deps = {}, QObject *parent = nullptr);
+    ~TovuNativeSurveyManager() override;
+
+    /// Verifies `apiKey` and pre-fetches the collector's survey. A zone
+    /// starting with "uat-" (in any case) selects the UAT environment.
+    void configure(std::string apiKey, TovuCollectorId collectorId, std::string zone,
+                   TovuEnvironment environment = TovuEnvironment::production);
+    /// The same for one survey; a configured survey id wins over a collector id.
+    void configure(std::string apiKey, TovuSurveyId surveyId, std::string zone,
+                   TovuEnvironment environment = TovuEnvironment::production);
+    /// Holds `survey` to present, with no backend call.
+    void configure(TovuSurvey survey);
+    void configureTheme(TovuAppTheme theme);
+    void configureTheme(QColor primaryColor);
+    /// The held survey's own theme, if any.
+    std::optional<TovuTheme> currentTheme() const;
+
+    void setUser(TovuUserData user);
+    void clearUser();
+
+    /// Shows the survey over `host` after `afterDelaySeconds`; a second call replaces the first.
+    void startIntercept(double afterDelaySeconds, QWidget *host);
+    /// Shows the held survey, or fetches the configured one first.
+    void fetchAndPresentSurvey(QWidget *host);
+    /// Shows whichever of `surveyIds` has the fewest responses so far.
+    void fetchAndPresentLowestResponseSurvey(std::vector<std::string> surveyIds, QWidget *host);
+    /// Starts a new session of the held survey in a sheet over `host`.
+    void presentSurvey(QWidget *host);
+
+    /// Keeps `answer` for the running session, replacing one to the same question.
+    void recordAnswer(TovuAnswer answer);
+
+    /// Sends every queued response; `completion` gets true when none failed.
+    void flushQueue(std::function<void(bool)> completion);
+    void clearQueue();
+    std::vector<TovuQueuedResponse> getQueuedResponses() const;
+
+    // The manager's state, read-only.
+    const std::optional<TovuSurvey> &survey() const;
+    const std::optional<std::string> &configuredSurveyId() const;
+    const std::optional<std::string> &configuredCollectorId() const;
+    const std::string &resolvedCollectorUUID() const;
+    const std::string &resolvedCollectorMongoId() const;
+    int currentQuestionIndex() const;
+    /// The sheet of the running session (Widgets presenter), or null.
+    TovuToasterView *toasterView() const;
+    QTimer *triggerTimer() const;
+    /// Kept for completeness: the queue lives in the store, not here.
+    const std::vector<TovuQueuedResponse> &responseQueue() const;
+    const std::string &surveyStartTime() const;
+    const std::vector<TovuAnswer> &currentAnswers() const;
+    const std::optional<TovuUserData> &userData() const;
+    std::int64_t surveyStartEpoch() const;
+    std::int64_t questionStartEpoch() const;
+    const std::map<std::string, double> &timePerQues() const;
+    int backTrackCount() const;
+    TovuPathMonitor *pathMonitor() const;
+    bool wasOffline() const;
+    TovuSurveyPresenter *presenter() const;
+
+Q_SIGNALS:
+    /// A sheet with `surveyId` went up.
+    void surveyShown(const QString &surveyId);
+    /// The sheet went away, after `answeredCount` questions were answered.
+    void surveyDismissed(int answeredCount);
+    void presentationRefused(TovuNativeSurveyManager::PresentationRefusal reason);
+    void responseSent(const QString &responseId);
+    /// A response could not be sent and waits in the queue, now `queuedCount` long.
+    void responseQueued(const QString &responseId, int queuedCount);
+    /// A flush ended: `sent` went out, `failed` stay queued.
+    void queueFlushed(int sent, int failed);
+
+private:
+    friend class TovuNativeSurveyManagerPrivate;
+    std::unique_ptr<TovuNativeSurveyManagerPrivate> d;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <tovukit_io/core/TovuSurveyPresenter.h>
+
+#include <QPointer>
+
+#include <memory>
+
+class TovuToasterView;
+class TovuUrlOpener;
+
+/// The Qt Widgets presenter: a TovuToasterView over a host widget, with the
+/// intro, question and thank-you views of the ui layer as its pages.
+class TovuSheetPresenter : public TovuSurveyPresenter
+{
+public:
+    /// `urlOpener` opens thank-you redirects (the default opener when null);
+    /// it must outlive the pages.
+    explicit TovuSheetPresenter(TovuUrlOpener *urlOpener = nullptr);
+    ~TovuSheetPresenter() override;
+
+    bool present(const TovuSurvey &survey, QObject *host) override;
+    void showIntro(const TovuSurveyPage &page, std::function<void()> onStart) override;
+    void showQuestion(TovuPageRequest request) override;
+    void dismiss() override;
+    bool isPresenting() const override;
+    QObject *sheet() const override;
+
+    TovuToasterView *toasterView() const { return m_sheet; }
+
+    /// The view for one page, not yet in a sheet.
+    static QWidget *createPage(TovuPageRequest request, TovuUrlOpener *urlOpener = nullptr);
+
+private:
+    std::unique_ptr<QObject> m_context;
+    QPointer<TovuToasterView> m_sheet;
+    TovuUrlOpener *m_urlOpener;
+};
