@@ -84,9 +84,10 @@ bool TovuSheetPresenter::present(const TovuSurvey &survey, QObject *host)
         if (alive && onSkip)
             onSkip();
     };
-    QObject::connect(sheet, &QObject::destroyed, m_context.get(), [this] {
-        // A sheet replaced by a newer one closes quietly.
-        if (!m_sheet && onDismissed)
+    QObject::connect(sheet, &QObject::destroyed, m_context.get(), [this, sheet] {
+        // A sheet replaced by a newer one closes quietly. (A widget tells of its
+        // end before QPointers to it are cleared, so compare addresses.)
+        if ((!m_sheet || m_sheet.data() == sheet) && onDismissed)
             onDismissed();
     });
     m_sheet = sheet;

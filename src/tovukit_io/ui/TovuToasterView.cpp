@@ -238,6 +238,11 @@ void TovuToasterView::focusMoved(QWidget *old, QWidget *now)
         ensureFocusVisible(now);
         return;
     }
+    // A sheet put up over this one takes the input; fighting it for focus would never end.
+    for (QWidget *w = now; w; w = w->parentWidget()) {
+        if (w != this && qobject_cast<TovuToasterView *>(w))
+            return;
+    }
     // The host's own widgets stay out of reach while the sheet covers them, also when a
     // click or the host's code hands one of them focus.
     if (now == m_host || m_host->isAncestorOf(now)) {
