@@ -19,7 +19,16 @@
 #include <tovukit_io/model/TovuThemeMode.h>
 #include <tovukit_io/model/TovuUserData.h>
 
+#include <tovukit_io/platform/TovuClock.h>
+#include <tovukit_io/platform/TovuKeyValueStore.h>
+#include <tovukit_io/platform/TovuManualClock.h>
+#include <tovukit_io/platform/TovuManualPathMonitor.h>
+#include <tovukit_io/platform/TovuMemoryKeyValueStore.h>
+#include <tovukit_io/platform/TovuPathMonitor.h>
+#include <tovukit_io/platform/TovuPathStatus.h>
+#include <tovukit_io/platform/TovuSqliteKeyValueStore.h>
 #include <tovukit_io/platform/TovuUrlOpener.h>
+#include <tovukit_io/platform/TovuUserDefaults.h>
 
 #include <tovukit_io/network/CollectorInfo.h>
 #include <tovukit_io/network/TovuAPISurveyData.h>

@@ -2,6 +2,7 @@
 // unless the environment asks for another, so no display is needed.
 
 #include <QApplication>
+#include <QStandardPaths>
 
 #include <gtest/gtest.h>
 
@@ -29,6 +30,8 @@ int main(int argc, char **argv)
 
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Stores and caches go to a test folder, never the user's own.
+    QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

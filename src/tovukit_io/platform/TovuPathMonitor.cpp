@@ -1,4 +1,9 @@
 #include <tovukit_io/platform/TovuManualPathMonitor.h>
+#include <tovukit_io/platform/TovuNetworkInformationPathMonitor.h>
+
+#ifdef Q_OS_LINUX
+#include <tovukit_io/platform/TovuNetlinkPathMonitor.h>
+#endif
 
 TovuPathMonitor::TovuPathMonitor(QObject *parent)
     : QObject(parent)
@@ -16,5 +21,13 @@ void TovuPathMonitor::report(TovuPathStatus status)
 
 std::unique_ptr<TovuPathMonitor> TovuPathMonitor::createDefault(QObject *parent)
 {
+    if (TovuNetworkInformationPathMonitor::loadBackend())
+        return std::make_unique<TovuNetworkInformationPathMonitor>(parent);
+#ifdef Q_OS_LINUX
+    return std::make_unique<TovuNetlinkPathMonitor>(parent);
+#else
+    // Nothing here reports changes: say the network is there, so sends are
+    // tried; one that fails is queued and tried again.
     return std::make_unique<TovuManualPathMonitor>(TovuPathStatus::satisfied, parent);
+#endif
 }

@@ -34,6 +34,9 @@ public:
 
     /// The system's monitor: QNetworkInformation where its backend reports
     /// changes, otherwise a watcher of the kernel's routing table on Linux.
+    /// Elsewhere, without such a backend, the monitor reports satisfied once
+    /// and nothing after; hosts there that know their connectivity should
+    /// pass a TovuManualPathMonitor and keep it told. Call on the GUI thread.
     static std::unique_ptr<TovuPathMonitor> createDefault(QObject *parent = nullptr);
 
     std::function<void(TovuPathStatus)> pathUpdateHandler;
