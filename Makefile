@@ -36,6 +36,7 @@ screenshots: build
 bench:
 	$(MAKE) build PRESET=release
 	@for b in build/release/bench/bench_*; do [ -x "$$b" ] && "$$b"; done
+	TOVU_CRASH_ROUNDS=1000 build/release/tests/integration/tst_queuecrash
 
 format:
 	scripts/format --fix
