@@ -20,26 +20,13 @@
 
 namespace {
 
+using TovuManagerSupport::later;
+
 constexpr std::string_view thankYouAutoId = "thank_you_auto";
-// Sends of a flush start a few per turn of the event loop, so a long queue
-// never holds the GUI thread for more than a frame.
-constexpr std::size_t sendsPerTurn = 16;
 
 std::string freshResponseId()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper().toStdString();
-}
-
-void print(std::string_view line)
-{
-    TovuLog::print(line);
-}
-
-// Runs `fn` on the GUI thread's next turn, unless `context` is gone by then.
-template<class Fn>
-void later(QObject *context, Fn fn)
-{
-    QMetaObject::invokeMethod(context, std::move(fn), Qt::QueuedConnection);
 }
 
 } // namespace
@@ -162,10 +149,10 @@ void TovuNativeSurveyManagerPrivate::verifyKey()
 {
     service.verifyApiKey([manager = QPointer(q)](TovuResult<std::string> token) {
         if (!token) {
-            print(">>> Tovu SDK ❌ API key verification failed: " + token.error().localizedDescription());
+            TovuLog::print(">>> Tovu SDK ❌ API key verification failed: " + token.error().localizedDescription());
             return;
         }
-        print(">>> Tovu SDK: API key verified ✅ — using Bearer token");
+        TovuLog::print(">>> Tovu SDK: API key verified ✅ — using Bearer token");
         if (manager)
             manager->d->prefetch();
     });
@@ -183,7 +170,7 @@ void TovuNativeSurveyManagerPrivate::prefetch()
         if (!result || !manager)
             return; // a failed pre-fetch is silent
         later(manager, [manager, survey = std::move(*result)]() mutable {
-            print(">>> Tovu SDK: Survey pre-fetched ✅ (" + survey.name + ")");
+            TovuLog::print(">>> Tovu SDK: Survey pre-fetched ✅ (" + survey.name + ")");
             manager->d->survey = std::move(survey);
         });
     };
@@ -220,7 +207,7 @@ void TovuNativeSurveyManager::fetchAndPresentSurvey(QWidget *host)
                 if (!manager)
                     return;
                 if (!collector) {
-                    print(">>> Tovu SDK Error [Collector]: " + collector.error().localizedDescription());
+                    TovuLog::print(">>> Tovu SDK Error [Collector]: " + collector.error().localizedDescription());
                     manager->d->refuse(PresentationRefusal::fetchFailed);
                     return;
                 }
@@ -228,7 +215,7 @@ void TovuNativeSurveyManager::fetchAndPresentSurvey(QWidget *host)
                 manager->d->fetchThenPresent(collector->surveyId, weakHost);
             });
     } else {
-        print(">>> Tovu SDK Error: Call configure(apiKey:collectorId:zone:) first.");
+        TovuLog::print(">>> Tovu SDK Error: Call configure(apiKey:collectorId:zone:) first.");
         d->refuse(PresentationRefusal::notConfigured);
     }
 }
@@ -249,11 +236,12 @@ void TovuNativeSurveyManagerPrivate::surveyArrived(TovuResult<TovuSurvey> result
     if (!host)
         return; // the host went away while fetching: nothing to show on
     if (!result) {
-        print(">>> Tovu SDK Error [Step 4 Survey]: " + result.error().localizedDescription());
+        TovuLog::print(">>> Tovu SDK Error [Step 4 Survey]: " + result.error().localizedDescription());
         refuse(TovuNativeSurveyManager::PresentationRefusal::fetchFailed);
         return;
     }
-    print(">>> Tovu SDK: Survey fetched: " + result->name + " | projectId=" + result->projectId.value_or("nil"));
+    TovuLog::print(">>> Tovu SDK: Survey fetched: " + result->name
+                   + " | projectId=" + result->projectId.value_or("nil"));
     survey = std::move(*result);
     q->presentSurvey(host);
 }
@@ -261,7 +249,7 @@ void TovuNativeSurveyManagerPrivate::surveyArrived(TovuResult<TovuSurvey> result
 void TovuNativeSurveyManager::fetchAndPresentLowestResponseSurvey(std::vector<std::string> surveyIds, QWidget *host)
 {
     if (surveyIds.empty()) {
-        print(">>> Tovu SDK Error: surveyUUIDs array is empty.");
+        TovuLog::print(">>> Tovu SDK Error: surveyUUIDs array is empty.");
         d->refuse(PresentationRefusal::notConfigured);
         return;
     }
@@ -270,7 +258,7 @@ void TovuNativeSurveyManager::fetchAndPresentLowestResponseSurvey(std::vector<st
             if (!manager || !weakHost)
                 return;
             if (!id) {
-                print(">>> Tovu SDK Error [Lowest Response]: " + id.error().localizedDescription());
+                TovuLog::print(">>> Tovu SDK Error [Lowest Response]: " + id.error().localizedDescription());
                 manager->d->refuse(PresentationRefusal::fetchFailed);
                 return;
             }
@@ -301,7 +289,7 @@ void TovuNativeSurveyManager::startIntercept(double afterDelaySeconds, QWidget *
 void TovuNativeSurveyManager::presentSurvey(QWidget *host)
 {
     if (!d->survey) {
-        print(">>> Tovu SDK Error: No survey configured.");
+        TovuLog::print(">>> Tovu SDK Error: No survey configured.");
         d->refuse(PresentationRefusal::noSurvey);
         return;
     }
@@ -426,7 +414,7 @@ void TovuNativeSurveyManagerPrivate::endSession(const std::string &status)
     survey.reset(); // the next presentation fetches again
     verifyKey();
     for (const auto &line : TovuResponseAssembly::dumpLines(response))
-        print(line);
+        TovuLog::print(line);
     send(service, response, [manager = QPointer(q), response](bool sent) {
         if (!manager)
             return;
@@ -440,177 +428,4 @@ void TovuNativeSurveyManagerPrivate::endSession(const std::string &status)
 void TovuNativeSurveyManagerPrivate::presenterDismissed()
 {
     Q_EMIT q->surveyDismissed(answeredCount);
-}
-
-// -- sending and the offline queue ----------------------------------------------------
-
-void TovuNativeSurveyManagerPrivate::send(TovuNetworkService &service, const TovuQueuedResponse &response,
-                                          std::function<void(bool)> completion)
-{
-    service.submitResponse(response.surveyId, makeFeedbackRequest(response),
-                           [completion = std::move(completion)](TovuResult<void> result) {
-                               if (!result)
-                                   print(">>> Tovu SDK: Submit failed, queuing for retry -> "
-                                         + result.error().localizedDescription());
-                               completion(result.has_value());
-                           });
-}
-
-void TovuNativeSurveyManagerPrivate::enqueue(const TovuQueuedResponse &response)
-{
-    const std::size_t count = queue().enqueue(response);
-    print(">>> Tovu SDK: Response saved to offline queue (total: " + std::to_string(count) + ")");
-    Q_EMIT q->responseQueued(QString::fromStdString(response.responseId), static_cast<int>(count));
-}
-
-void TovuNativeSurveyManagerPrivate::finishFlush(const std::shared_ptr<FlushState> &state)
-{
-    const std::size_t failed = state->failed.size();
-    const std::size_t sent = state->responses.size() - failed;
-    if (state->manager)
-        state->manager->d->queue().store(state->failed);
-    print(">>> Tovu SDK: Flush done — " + std::to_string(failed) + " failed, " + std::to_string(sent) + " sent");
-    if (state->completion)
-        state->completion(failed == 0);
-    if (state->manager)
-        Q_EMIT state->manager->queueFlushed(static_cast<int>(sent), static_cast<int>(failed));
-}
-
-void TovuNativeSurveyManagerPrivate::flush(std::function<void(bool)> completion)
-{
-    auto state = std::make_shared<FlushState>();
-    state->responses = queue().load();
-    if (state->responses.empty()) {
-        if (completion)
-            completion(true);
-        return;
-    }
-    print(">>> Tovu SDK: Flushing " + std::to_string(state->responses.size()) + " offline response(s)...");
-    state->completion = std::move(completion);
-    state->manager = q;
-    state->service = &service;
-
-    startSends(state);
-}
-
-void TovuNativeSurveyManagerPrivate::startSends(const std::shared_ptr<FlushState> &state)
-{
-    // A few per turn of the event loop; none waits for another to finish.
-    if (!state->service)
-        return;
-    const std::size_t end = std::min(state->started + sendsPerTurn, state->responses.size());
-    while (state->started < end) {
-        const std::size_t index = state->started++;
-        send(*state->service, state->responses[index], [state, index](bool sent) {
-            if (!sent)
-                state->failed.push_back(state->responses[index]);
-            if (++state->completed == state->responses.size())
-                later(QCoreApplication::instance(), [state] { finishFlush(state); });
-        });
-    }
-    // The backend client, not the manager, carries the rest: a flush ends even if the manager goes.
-    if (state->started < state->responses.size())
-        later(state->service, [state] { startSends(state); });
-}
-
-void TovuNativeSurveyManager::flushQueue(std::function<void(bool)> completion)
-{
-    d->flush(std::move(completion));
-}
-
-void TovuNativeSurveyManager::clearQueue()
-{
-    d->queue().clear();
-}
-
-std::vector<TovuQueuedResponse> TovuNativeSurveyManager::getQueuedResponses() const
-{
-    return d->queue().load();
-}
-
-void TovuNativeSurveyManagerPrivate::pathUpdated(TovuPathStatus status)
-{
-    const bool satisfied = status == TovuPathStatus::satisfied;
-    if (satisfied && (wasOffline || !queue().load().empty()))
-        flush(nullptr);
-    wasOffline = !satisfied;
-}
-
-// -- state -----------------------------------------------------------------------------
-
-const std::optional<TovuSurvey> &TovuNativeSurveyManager::survey() const
-{
-    return d->survey;
-}
-const std::optional<std::string> &TovuNativeSurveyManager::configuredSurveyId() const
-{
-    return d->configuredSurveyId;
-}
-const std::optional<std::string> &TovuNativeSurveyManager::configuredCollectorId() const
-{
-    return d->configuredCollectorId;
-}
-const std::string &TovuNativeSurveyManager::resolvedCollectorUUID() const
-{
-    return d->resolvedCollectorUUID;
-}
-const std::string &TovuNativeSurveyManager::resolvedCollectorMongoId() const
-{
-    return d->resolvedCollectorMongoId;
-}
-int TovuNativeSurveyManager::currentQuestionIndex() const
-{
-    return d->currentQuestionIndex;
-}
-TovuToasterView *TovuNativeSurveyManager::toasterView() const
-{
-    return qobject_cast<TovuToasterView *>(d->presenter.sheet());
-}
-QTimer *TovuNativeSurveyManager::triggerTimer() const
-{
-    return d->triggerTimer;
-}
-const std::vector<TovuQueuedResponse> &TovuNativeSurveyManager::responseQueue() const
-{
-    return d->responseQueue;
-}
-const std::string &TovuNativeSurveyManager::surveyStartTime() const
-{
-    return d->surveyStartTime;
-}
-const std::vector<TovuAnswer> &TovuNativeSurveyManager::currentAnswers() const
-{
-    return d->currentAnswers;
-}
-const std::optional<TovuUserData> &TovuNativeSurveyManager::userData() const
-{
-    return d->userData;
-}
-std::int64_t TovuNativeSurveyManager::surveyStartEpoch() const
-{
-    return d->surveyStartEpoch;
-}
-std::int64_t TovuNativeSurveyManager::questionStartEpoch() const
-{
-    return d->questionStartEpoch;
-}
-const std::map<std::string, double> &TovuNativeSurveyManager::timePerQues() const
-{
-    return d->timePerQues;
-}
-int TovuNativeSurveyManager::backTrackCount() const
-{
-    return d->backTrackCount;
-}
-TovuPathMonitor *TovuNativeSurveyManager::pathMonitor() const
-{
-    return d->monitor;
-}
-bool TovuNativeSurveyManager::wasOffline() const
-{
-    return d->wasOffline;
-}
-TovuSurveyPresenter *TovuNativeSurveyManager::presenter() const
-{
-    return &d->presenter;
 }

@@ -13,6 +13,17 @@
 
 #include <memory>
 
+namespace TovuManagerSupport {
+
+// Runs `fn` on the GUI thread's next turn, unless `context` is gone by then.
+template<class Fn>
+void later(QObject *context, Fn fn)
+{
+    QMetaObject::invokeMethod(context, std::move(fn), Qt::QueuedConnection);
+}
+
+} // namespace TovuManagerSupport
+
 // The manager's state and steps. Everything runs on the GUI thread; closures
 // that outlive a call hold the manager and the host through QPointer.
 class TovuNativeSurveyManagerPrivate
@@ -58,6 +69,7 @@ public:
         QPointer<TovuNetworkService> service;
     };
     void flush(std::function<void(bool)> completion);
+    void flush(std::vector<TovuQueuedResponse> responses, std::function<void(bool)> completion);
     static void startSends(const std::shared_ptr<FlushState> &state);
     static void finishFlush(const std::shared_ptr<FlushState> &state);
     void pathUpdated(TovuPathStatus status);
