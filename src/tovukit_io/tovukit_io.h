@@ -69,6 +69,7 @@
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuBoxLook.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/ui/kit/TovuCaptionRow.h>
 #include <tovukit_io/ui/kit/TovuChevron.h>
 #include <tovukit_io/ui/kit/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuEqualWidthLayout.h>
@@ -82,6 +83,7 @@
 #include <tovukit_io/ui/kit/TovuSymbolButton.h>
 #include <tovukit_io/ui/kit/TovuTextArea.h>
 #include <tovukit_io/ui/kit/TovuTextField.h>
+#include <tovukit_io/ui/kit/TovuTextFit.h>
 
 #include <tovukit_io/core/TovuNativeSurveyManager.h>
 #include <tovukit_io/core/TovuOfflineQueue.h>

@@ -4,6 +4,7 @@
 #include "TovuRatingParts.h"
 
 #include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/ui/kit/TovuCaptionRow.h>
 #include <tovukit_io/ui/kit/TovuEqualWidthLayout.h>
 #include <tovukit_io/ui/kit/TovuHairline.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
@@ -95,43 +96,42 @@ TovuScrollStrip *TovuMultiRatingQuestionView::buttonStrip(int row, const std::st
     const bool labelled = m_model->showsColumnLabels();
     auto *strip = new TovuScrollStrip(this);
     strip->setFixedHeight(labelled ? labelledStripHeight : stripHeight);
-    auto *content = new QWidget;
+    // The labels are painted by the row, not laid out: a grid of ten by ten would
+    // otherwise take two hundred more widgets.
+    TovuCaptionRow *content = Pieces::captionRow();
     QLayout *layout = nullptr;
-    if (m_model->sharesWidth()) {
+    if (m_model->sharesWidth())
         layout = new TovuEqualWidthLayout(content);
-    } else {
+    else
         layout = new QHBoxLayout(content);
-        layout->setContentsMargins(0, 0, 0, 0);
-    }
+    // Room for the labels below the buttons, which the row centres with them.
+    layout->setContentsMargins(0, 0, 0, labelled ? content->captionHeight() : 0);
     layout->setSpacing(columnSpacing);
 
     const QStringList texts = m_model->columnTexts();
     for (int position = 1; position <= texts.size(); ++position) {
         TovuButton *button = makeButton(row, rowId, position, content);
-        QWidget *column = button;
-        QLabel *label = nullptr;
-        if (labelled) {
-            column = Pieces::labelledColumn(button, texts[position - 1], content, m_columnLabels);
-            label = m_columnLabels.last();
-        }
+        if (labelled)
+            content->setCaption(button, texts[position - 1]);
         if (!m_model->sharesWidth())
-            column->setFixedWidth(columnWidth(position, label)); // and the strip scrolls
-        layout->addWidget(column);
+            button->setFixedWidth(columnWidth(position, labelled ? content : nullptr)); // and the strip scrolls
+        layout->addWidget(button);
     }
     if (auto *box = qobject_cast<QHBoxLayout *>(layout))
         box->addStretch();
     strip->setWidget(content);
     m_strips.append(strip);
+    m_captionRows.append(content);
     return strip;
 }
 
-// Every row has the same columns: their widths are measured once, with the first label's font.
-int TovuMultiRatingQuestionView::columnWidth(int position, const QLabel *label)
+// Every row has the same columns: their widths are measured once, with the first row's label font.
+int TovuMultiRatingQuestionView::columnWidth(int position, const TovuCaptionRow *captions)
 {
-    if (!label)
+    if (!captions)
         return naturalColumnWidth;
     if (m_columnWidths.isEmpty()) {
-        const QFontMetricsF metrics(label->font());
+        const QFontMetricsF metrics(captions->captionFont());
         for (const QString &text : m_model->columnTexts())
             m_columnWidths.append(naturalWidth(metrics, text));
     }
@@ -223,7 +223,7 @@ void TovuMultiRatingQuestionView::restyle()
     Parts::restyleAction(m_actionButton, accent());
     for (QLabel *label : std::as_const(m_rowLabels))
         TovuLabels::setColor(label, TovuThemeEngine::shared().textColor());
-    Pieces::restyleColumnLabels(m_columnLabels);
+    Pieces::restyleColumnLabels(m_captionRows);
     for (const auto &[rowId, buttons] : m_rowButtons)
         restyleRow(QString::fromStdString(rowId));
 }

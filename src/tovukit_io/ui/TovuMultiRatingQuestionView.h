@@ -13,6 +13,7 @@
 
 class QLabel;
 class QVBoxLayout;
+class TovuCaptionRow;
 class TovuScrollStrip;
 
 /// A multi-rating question: one block per row item (the question's options), each
@@ -74,7 +75,7 @@ private:
     void addRow(int row, const QString &rowId, const QString &text);
     TovuScrollStrip *buttonStrip(int row, const std::string &rowId);
     TovuButton *makeButton(int row, const std::string &rowId, int position, QWidget *strip);
-    int columnWidth(int position, const QLabel *label);
+    int columnWidth(int position, const TovuCaptionRow *captions);
     void restyleRow(const QString &rowId);
     void bump(const QString &rowId, const QString &identifier);
 
@@ -87,6 +88,7 @@ private:
     std::map<std::string, QList<TovuButton *>> m_rowButtons;
     QList<TovuScrollStrip *> m_strips;
     QList<QLabel *> m_rowLabels;
-    QList<QLabel *> m_columnLabels;
+    // Each strip's content, which paints the column labels under its buttons.
+    QList<TovuCaptionRow *> m_captionRows;
     QList<int> m_columnWidths;
 };

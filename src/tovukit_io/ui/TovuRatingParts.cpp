@@ -3,6 +3,7 @@
 #include "TovuQuestionParts.h"
 
 #include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/ui/kit/TovuCaptionRow.h>
 #include <tovukit_io/ui/kit/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
@@ -15,6 +16,23 @@
 
 using Model = TovuRatingQuestionViewModel;
 using Parts = TovuQuestionParts;
+
+namespace {
+
+// How column labels look, whether they are labels or painted by the row.
+constexpr int columnLabelSpacing = 2;
+
+QFont columnLabelFont()
+{
+    return Parts::font(10, QFont::Normal);
+}
+
+QColor columnLabelColor()
+{
+    return TovuPlatformColors::color(TovuPlatformColors::Role::gray);
+}
+
+} // namespace
 
 TovuSymbolButton *TovuRatingParts::symbolButton(qreal pointSize, int height, QWidget *parent)
 {
@@ -40,14 +58,22 @@ QWidget *TovuRatingParts::labelledColumn(TovuButton *button, const QString &text
     auto *column = new QWidget(parent);
     // Only as high as button and label: the row centres it.
     column->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    QVBoxLayout *stack = Parts::pageStack(column, 2);
+    QVBoxLayout *stack = Parts::pageStack(column, columnLabelSpacing);
     button->setParent(column);
     stack->addWidget(button);
     auto *label = new TovuFitLabel(text, column);
-    label->setFont(Parts::font(10, QFont::Normal));
+    label->setFont(columnLabelFont());
     stack->addWidget(label);
     labels.append(label);
     return column;
+}
+
+TovuCaptionRow *TovuRatingParts::captionRow()
+{
+    auto *row = new TovuCaptionRow;
+    row->setCaptionFont(columnLabelFont());
+    row->setCaptionSpacing(columnLabelSpacing);
+    return row;
 }
 
 void TovuRatingParts::styleSymbol(TovuSymbolButton *button, const QString &symbolName, bool filled,
@@ -67,5 +93,11 @@ void TovuRatingParts::styleFace(TovuButton *button, bool chosen, qreal size, qre
 void TovuRatingParts::restyleColumnLabels(const QList<QLabel *> &labels)
 {
     for (QLabel *label : labels)
-        TovuLabels::setColor(label, TovuPlatformColors::color(TovuPlatformColors::Role::gray));
+        TovuLabels::setColor(label, columnLabelColor());
+}
+
+void TovuRatingParts::restyleColumnLabels(const QList<TovuCaptionRow *> &rows)
+{
+    for (TovuCaptionRow *row : rows)
+        row->setCaptionColor(columnLabelColor());
 }

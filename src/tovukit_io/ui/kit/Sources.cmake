@@ -4,6 +4,7 @@ list(APPEND ui_sources
   kit/TovuBoxLook.cpp
   kit/TovuButton.cpp
   kit/TovuButtonScaleEffect.h
+  kit/TovuCaptionRow.cpp
   kit/TovuChevron.cpp
   kit/TovuEmoji.cpp
   kit/TovuEqualWidthLayout.cpp
@@ -15,16 +16,22 @@ list(APPEND ui_sources
   kit/TovuKitPainting.cpp
   kit/TovuKitPainting.h
   kit/TovuLabels.cpp
+  kit/TovuPlainLabel.cpp
+  kit/TovuPlainLabel.h
   kit/TovuScrollStrip.cpp
   kit/TovuShake.cpp
   kit/TovuSymbol.cpp
   kit/TovuSymbolButton.cpp
   kit/TovuTextArea.cpp
-  kit/TovuTextField.cpp)
+  kit/TovuTextField.cpp
+  kit/TovuTextFit.cpp
+  kit/TovuTextMetrics.cpp
+  kit/TovuTextMetrics.h)
 list(APPEND ui_headers
   kit/TovuBox.h
   kit/TovuBoxLook.h
   kit/TovuButton.h
+  kit/TovuCaptionRow.h
   kit/TovuChevron.h
   kit/TovuEmoji.h
   kit/TovuEqualWidthLayout.h
@@ -37,4 +44,5 @@ list(APPEND ui_headers
   kit/TovuSymbol.h
   kit/TovuSymbolButton.h
   kit/TovuTextArea.h
-  kit/TovuTextField.h)
+  kit/TovuTextField.h
+  kit/TovuTextFit.h)

@@ -8,6 +8,7 @@
 #include "TovuButtonScaleEffect.h"
 #include "TovuKitAnimator.h"
 #include "TovuKitPainting.h"
+#include "TovuTextMetrics.h"
 
 #include <QEvent>
 #include <QFocusEvent>
@@ -317,8 +318,8 @@ int TovuButton::textHeight(int width) const
         return metrics.height();
     const QMargins insets = visualInsets();
     const int available = std::max(1, width - insets.left() - insets.right());
-    return metrics.boundingRect(QRect(0, 0, available, std::numeric_limits<int>::max() / 4), textFlags(), text())
-        .height();
+    const QRect area(0, 0, available, std::numeric_limits<int>::max() / 4);
+    return TovuTextMetrics::boundingRect(font(), *this, area, textFlags(), text()).height();
 }
 
 void TovuButton::invalidateSizeCache()
@@ -352,8 +353,9 @@ QSize TovuButton::sizeHint() const
     ensurePolished();
     if (m_cachedTextWidth < 0) {
         // One line per paragraph: wrapping only starts when the layout gives less.
-        const QFontMetrics metrics(font());
-        m_cachedTextWidth = text().isEmpty() ? 0 : metrics.boundingRect(QRect(), Qt::AlignLeft, text()).width() + 1;
+        m_cachedTextWidth = text().isEmpty()
+            ? 0
+            : TovuTextMetrics::boundingRect(font(), *this, QRect(), Qt::AlignLeft, text()).width() + 1;
     }
     const QMargins insets = visualInsets();
     const int width = insets.left() + insets.right() + m_cachedTextWidth;

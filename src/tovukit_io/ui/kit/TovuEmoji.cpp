@@ -1,6 +1,8 @@
 #include <tovukit_io/ui/kit/TovuEmoji.h>
 
-#include <QFontMetricsF>
+#include "TovuKitPainting.h"
+#include "TovuTextMetrics.h"
+
 #include <QGuiApplication>
 #include <QPaintDevice>
 #include <QPainter>
@@ -46,14 +48,14 @@ void TovuEmoji::drawText(QPainter &painter, const QRectF &rect, int flags, const
                          const QColor &color)
 {
     // Scaled or rotated, the picture would be resampled: draw the glyphs themselves.
-    if (painter.worldTransform().type() > QTransform::TxTranslate || !painter.device()) {
+    const qreal dpr = TovuKitPainting::pixelRatio(painter);
+    if (dpr <= 0) {
         painter.setFont(font);
         painter.setPen(color);
         painter.drawText(rect, flags, text);
         return;
     }
-    const qreal dpr = painter.device()->devicePixelRatioF();
-    const QSizeF size = QFontMetricsF(font).boundingRect(QRectF(), Qt::AlignLeft, text).size();
+    const QSizeF size = TovuTextMetrics::boundingRect(font, *painter.device(), QRectF(), Qt::AlignLeft, text).size();
     const QString key = QStringLiteral("tovu-emoji/%1/%2/%3/%4").arg(text, font.key()).arg(color.rgba()).arg(dpr);
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {

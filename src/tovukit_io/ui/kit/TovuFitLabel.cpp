@@ -1,32 +1,12 @@
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 
 #include <QEvent>
-#include <QFontMetricsF>
+#include <QFontMetrics>
 #include <QPainter>
 #include <QStyle>
 
 #include <algorithm>
 #include <cmath>
-
-namespace {
-
-qreal textWidth(const QFont &font, const QString &text)
-{
-    return QFontMetricsF(font).size(Qt::TextSingleLine, text).width();
-}
-
-// `font` at `scale` of its size, in the unit it was given in.
-QFont scaled(const QFont &font, qreal scale)
-{
-    QFont result = font;
-    if (font.pixelSize() > 0)
-        result.setPixelSize(std::max(1, static_cast<int>(std::floor(font.pixelSize() * scale))));
-    else
-        result.setPointSizeF(std::max<qreal>(0.5, font.pointSizeF() * scale));
-    return result;
-}
-
-} // namespace
 
 TovuFitLabel::TovuFitLabel(const QString &text, QWidget *parent)
     : QLabel(parent)
@@ -64,32 +44,15 @@ void TovuFitLabel::setMinimumScaleFactor(qreal factor)
 
 QFont TovuFitLabel::fittedFont() const
 {
-    return fit().font;
+    return fit().font();
 }
 
-const TovuFitLabel::Fit &TovuFitLabel::fit() const
+const TovuTextFit &TovuFitLabel::fit() const
 {
     // A hidden label hears of no resize: the width is part of what the fit is for.
     const qreal available = contentsRect().width();
-    if (m_fit && m_fit->available == available)
-        return *m_fit;
-    const QFont natural = font();
-    qreal width = textWidth(natural, text());
-    if (width <= available || width <= 0) {
-        m_fit = Fit{natural, width, available};
-        return *m_fit;
-    }
-    // Glyph advances do not shrink exactly in proportion (and pixel sizes are whole):
-    // step down until it fits or the smallest allowed size is reached.
-    qreal scale = std::max(m_minimumScaleFactor, available / width);
-    QFont candidate = scaled(natural, scale);
-    width = textWidth(candidate, text());
-    while (width > available && scale > m_minimumScaleFactor) {
-        scale = std::max(m_minimumScaleFactor, scale * 0.95);
-        candidate = scaled(natural, scale);
-        width = textWidth(candidate, text());
-    }
-    m_fit = Fit{candidate, width, available};
+    if (!m_fit || m_fit->available() != available)
+        m_fit = TovuTextFit(text(), font(), available, m_minimumScaleFactor, *this);
     return *m_fit;
 }
 
@@ -124,12 +87,9 @@ void TovuFitLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     drawFrame(&painter);
     const QRect area = contentsRect();
-    const Fit &fitted = fit();
-    painter.setFont(fitted.font);
-    // Eliding measures the text again: only when even the smallest size is too wide.
-    const QString shown = fitted.textWidth <= area.width()
-        ? text()
-        : QFontMetrics(fitted.font).elidedText(text(), Qt::ElideRight, area.width(), Qt::TextSingleLine);
+    const TovuTextFit &fitted = fit();
+    painter.setFont(fitted.font());
+    const QString shown = fitted.shownText(area.width());
     const auto flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::TextSingleLine;
     style()->drawItemText(&painter, area, flags, palette(), isEnabled(), shown, foregroundRole());
 }

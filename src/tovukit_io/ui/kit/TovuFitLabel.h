@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tovukit_io/ui/kit/TovuTextFit.h>
+
 #include <QLabel>
 
 #include <optional>
@@ -41,16 +43,11 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    struct Fit {
-        QFont font;
-        qreal textWidth = 0;
-        qreal available = -1;
-    };
     // Measuring text is the dear part of painting a label: the fit is kept until the
     // text, the font or the width changes.
-    const Fit &fit() const;
+    const TovuTextFit &fit() const;
     void forgetFit();
 
     qreal m_minimumScaleFactor = 0.5;
-    mutable std::optional<Fit> m_fit;
+    mutable std::optional<TovuTextFit> m_fit;
 };

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <functional>
 
@@ -29,6 +30,16 @@ QPainterPath roundedRect(const QRectF &rect, qreal radius)
     else
         path.addRect(rect);
     return path;
+}
+
+qreal pixelRatio(const QPainter &painter)
+{
+    if (!painter.device() || painter.worldTransform().type() > QTransform::TxTranslate)
+        return 0;
+    const QTransform &device = painter.deviceTransform();
+    if (device.type() > QTransform::TxScale || device.m11() != device.m22() || !(device.m11() > 0))
+        return 0;
+    return device.m11();
 }
 
 namespace {
@@ -62,22 +73,24 @@ bool isWhole(qreal value)
 // resampled, and drawing the shape itself is sharper.
 bool canUseCache(const QPainter &painter, const QRectF &rect)
 {
-    if (painter.worldTransform().type() > QTransform::TxTranslate || !painter.device())
+    const qreal dpr = pixelRatio(painter);
+    if (dpr <= 0 || rect.width() > largestCachedSide || rect.height() > largestCachedSide)
         return false;
-    if (rect.width() > largestCachedSide || rect.height() > largestCachedSide)
-        return false;
-    const qreal dpr = painter.device()->devicePixelRatioF();
     const QPointF origin = painter.worldTransform().map(rect.topLeft()) * dpr;
     return isWhole(origin.x()) && isWhole(origin.y()) && isWhole(rect.width() * dpr) && isWhole(rect.height() * dpr);
 }
 
+// A number as its bits: exact, and far cheaper to write out than in decimals, which a
+// page of buttons would otherwise do a few hundred times a frame.
+QString keyPart(qreal value)
+{
+    return QString::number(std::bit_cast<quint64>(static_cast<double>(value)), 16);
+}
+
 QString boxKey(const QColor &background, const QColor &border, qreal borderWidth, qreal radius)
 {
-    return QStringLiteral("tovu-box/%1/%2/%3/%4")
-        .arg(background.rgba(), 0, 16)
-        .arg(border.rgba(), 0, 16)
-        .arg(borderWidth)
-        .arg(radius);
+    return u"tovu-box/" + QString::number(background.rgba(), 16) + u'/' + QString::number(border.rgba(), 16) + u'/'
+        + keyPart(borderWidth) + u'/' + keyPart(radius);
 }
 
 } // namespace
@@ -85,9 +98,9 @@ QString boxKey(const QColor &background, const QColor &border, qreal borderWidth
 QRectF pixelAligned(const QPainter &painter, const QPointF &centre, qreal side)
 {
     const QRectF square(centre - QPointF(side / 2, side / 2), QSizeF(side, side));
-    if (painter.worldTransform().type() > QTransform::TxTranslate || !painter.device())
+    const qreal dpr = pixelRatio(painter);
+    if (dpr <= 0)
         return square;
-    const qreal dpr = painter.device()->devicePixelRatioF();
     const QPointF offset = painter.worldTransform().map(QPointF());
     const auto snap = [dpr](qreal value) {
         return std::round(value * dpr) / dpr;
@@ -106,8 +119,8 @@ void paintCached(QPainter &painter, const QRectF &rect, const QString &key,
         paint(painter, rect);
         return;
     }
-    const qreal dpr = painter.device()->devicePixelRatioF();
-    const QString sizedKey = key + QStringLiteral("/%1x%2@%3").arg(rect.width()).arg(rect.height()).arg(dpr);
+    const qreal dpr = pixelRatio(painter);
+    const QString sizedKey = key + u'/' + keyPart(rect.width()) + u'x' + keyPart(rect.height()) + u'@' + keyPart(dpr);
     QPixmap picture;
     if (!QPixmapCache::find(sizedKey, &picture)) {
         picture = QPixmap((rect.size() * dpr).toSize());
@@ -125,6 +138,9 @@ void paintCached(QPainter &painter, const QRectF &rect, const QString &key,
 void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border, qreal borderWidth,
               qreal radius)
 {
+    // Symbol and face buttons have no box at all: not even an empty picture to blend.
+    if (background.alpha() == 0 && (border.alpha() == 0 || !(borderWidth > 0)))
+        return;
     paintCached(painter, rect, boxKey(background, border, borderWidth, radius),
                 [&](QPainter &target, const QRectF &area) {
                     paintBoxDirectly(target, area, background, border, borderWidth, radius);

@@ -20,6 +20,11 @@ qreal effectiveRadius(const QSizeF &size, qreal radius);
 
 QPainterPath roundedRect(const QRectF &rect, qreal radius);
 
+/// Device pixels per logical pixel where the painter only translates: the ratio of the
+/// surface actually painted (an image a widget is rendered into, say), which need not be
+/// the widget's own. 0 under any other transform.
+qreal pixelRatio(const QPainter &painter);
+
 /// A square of about `side` centred on `centre`, moved and sized to whole device pixels
 /// where the painter only translates, so a cached picture of it stays sharp.
 QRectF pixelAligned(const QPainter &painter, const QPointF &centre, qreal side);

@@ -1,11 +1,13 @@
 #include <tovukit_io/ui/kit/TovuLabels.h>
 
+#include "TovuPlainLabel.h"
+
 #include <QLabel>
 #include <QPalette>
 
 QLabel *TovuLabels::plain(const QString &text, const QFont &font, const QColor &color, QWidget *parent)
 {
-    auto *label = new QLabel(parent);
+    auto *label = new TovuPlainLabel(parent);
     // Before the text: with the default automatic format the first setText could take
     // survey text for rich text.
     label->setTextFormat(Qt::PlainText);
