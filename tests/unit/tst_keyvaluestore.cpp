@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -94,6 +95,14 @@ TEST_P(StoreKinds, EachKeyHoldsABlobAnIntegerOrNothing)
     EXPECT_TRUE(store->setInteger("", 1));
     EXPECT_TRUE(store->setInteger("other", 2));
     EXPECT_EQ(store->integer(""), 1);
+
+    // Reads leave the revision alone; each write moves it by one.
+    const auto before = store->revision();
+    ASSERT_TRUE(before);
+    EXPECT_EQ(store->revision(), before);
+    store->setData("other", "x");
+    store->removeValue("other");
+    EXPECT_EQ(store->revision(), *before + 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(KeyValueStore, StoreKinds, testing::Values(StoreKind::Memory, StoreKind::Sqlite),
@@ -107,7 +116,9 @@ TEST(SqliteKeyValueStore, WritesAreSharedBetweenStoresAndSurviveReopening)
         TovuSqliteKeyValueStore first(path);
         TovuSqliteKeyValueStore second(path);
         ASSERT_TRUE(first.isPersistent());
+        const auto seen = second.revision();
         EXPECT_TRUE(first.setData("queue", "[1]"));
+        EXPECT_NE(second.revision(), seen); // the other store's commit counts
         EXPECT_EQ(second.data("queue"), QByteArray("[1]"));
         EXPECT_TRUE(second.setInteger("visits", 4));
         EXPECT_TRUE(second.removeValue("queue"));
@@ -117,6 +128,19 @@ TEST(SqliteKeyValueStore, WritesAreSharedBetweenStoresAndSurviveReopening)
     TovuSqliteKeyValueStore reopened(path);
     EXPECT_EQ(reopened.integer("visits"), 4);
     EXPECT_FALSE(reopened.data("queue"));
+}
+
+// The log is folded into the file while the store is open, not only when it closes.
+TEST(SqliteKeyValueStore, CheckpointsWhileOpen)
+{
+    QTemporaryDir dir;
+    TovuSqliteKeyValueStore store(kvPath(dir));
+    const QByteArray big(6 << 20, 'q');
+    ASSERT_TRUE(store.setData("queue", big));
+    for (int waited = 0; QFileInfo(kvPath(dir)).size() < big.size() && waited < 5000; waited += 10)
+        QThread::msleep(10);
+    EXPECT_GE(QFileInfo(kvPath(dir)).size(), big.size());
+    EXPECT_EQ(store.data("queue"), big);
 }
 
 #ifdef Q_OS_UNIX

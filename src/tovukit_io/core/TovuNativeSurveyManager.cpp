@@ -118,6 +118,7 @@ void TovuNativeSurveyManager::configure(std::string apiKey, TovuSurveyId surveyI
 void TovuNativeSurveyManager::configure(TovuSurvey survey)
 {
     d->survey = std::move(survey);
+    d->prepareFirstPage();
 }
 
 void TovuNativeSurveyManager::configureTheme(TovuAppTheme theme)
@@ -172,6 +173,7 @@ void TovuNativeSurveyManagerPrivate::prefetch()
         later(manager, [manager, survey = std::move(*result)]() mutable {
             TovuLog::print(">>> Tovu SDK: Survey pre-fetched ✅ (" + survey.name + ")");
             manager->d->survey = std::move(survey);
+            manager->d->prepareFirstPage();
         });
     };
     if (configuredSurveyId) {
@@ -367,6 +369,12 @@ TovuPageRequest TovuNativeSurveyManagerPrivate::pageRequest(int index)
         };
     }
     return request;
+}
+
+void TovuNativeSurveyManagerPrivate::prepareFirstPage()
+{
+    if (survey && !survey->questions.empty() && !presenter.isPresenting())
+        presenter.prepare(*survey, pageRequest(0));
 }
 
 void TovuNativeSurveyManagerPrivate::showQuestion(int index)

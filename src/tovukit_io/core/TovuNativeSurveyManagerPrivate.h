@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tovukit_io/core/TovuManagerSupport.h>
 #include <tovukit_io/core/TovuNativeSurveyManager.h>
 #include <tovukit_io/core/TovuOfflineQueue.h>
 #include <tovukit_io/core/TovuSurveyPresenter.h>
@@ -12,17 +13,6 @@
 #include <QPointer>
 
 #include <memory>
-
-namespace TovuManagerSupport {
-
-// Runs `fn` on the GUI thread's next turn, unless `context` is gone by then.
-template<class Fn>
-void later(QObject *context, Fn fn)
-{
-    QMetaObject::invokeMethod(context, std::move(fn), Qt::QueuedConnection);
-}
-
-} // namespace TovuManagerSupport
 
 // The manager's state and steps. Everything runs on the GUI thread; closures
 // that outlive a call hold the manager and the host through QPointer.
@@ -46,6 +36,7 @@ public:
 
     // The session.
     void resetSession();
+    void prepareFirstPage();
     void showQuestion(int index);
     void next();
     TovuPageRequest pageRequest(int index);
@@ -70,8 +61,11 @@ public:
     };
     void flush(std::function<void(bool)> completion);
     void flush(std::vector<TovuQueuedResponse> responses, std::function<void(bool)> completion);
+    static void start(TovuNetworkService *service, TovuNativeSurveyManager *manager,
+                      std::vector<TovuQueuedResponse> responses, std::function<void(bool)> completion);
     static void startSends(const std::shared_ptr<FlushState> &state);
     static void finishFlush(const std::shared_ptr<FlushState> &state);
+    static void endFlush(const std::shared_ptr<FlushState> &state, std::optional<QByteArray> failedBlob);
     void pathUpdated(TovuPathStatus status);
     TovuOfflineQueue &queue();
 

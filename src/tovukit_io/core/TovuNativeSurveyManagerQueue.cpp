@@ -8,13 +8,14 @@
 
 #include <QCoreApplication>
 
+using TovuManagerSupport::inBackground;
 using TovuManagerSupport::later;
 
 namespace {
 
 // Sends of a flush start a few per turn of the event loop, so a long queue
 // never holds the GUI thread for more than a frame.
-constexpr std::size_t sendsPerTurn = 16;
+constexpr std::size_t sendsPerTurn = 6;
 
 } // namespace
 
@@ -41,10 +42,28 @@ void TovuNativeSurveyManagerPrivate::enqueue(const TovuQueuedResponse &response)
 
 void TovuNativeSurveyManagerPrivate::finishFlush(const std::shared_ptr<FlushState> &state)
 {
+    if (state->failed.empty() || !state->manager) {
+        endFlush(state, std::nullopt);
+        return;
+    }
+    // Encoding a long failed list is milliseconds of work: done off the GUI thread.
+    inBackground(
+        state->service, [failed = state->failed] { return TovuOfflineQueue::encode(failed); },
+        [state](std::optional<QByteArray> blob) { endFlush(state, std::move(blob)); });
+}
+
+void TovuNativeSurveyManagerPrivate::endFlush(const std::shared_ptr<FlushState> &state,
+                                              std::optional<QByteArray> failedBlob)
+{
     const std::size_t failed = state->failed.size();
     const std::size_t sent = state->responses.size() - failed;
-    if (state->manager)
-        state->manager->d->queue().store(state->failed);
+    if (state->manager) {
+        auto &queue = state->manager->d->queue();
+        if (failed == 0)
+            queue.clear();
+        else if (failedBlob)
+            queue.storeEncoded(*std::move(failedBlob), state->failed);
+    }
     TovuLog::print(">>> Tovu SDK: Flush done — " + std::to_string(failed) + " failed, " + std::to_string(sent)
                    + " sent");
     if (state->completion)
@@ -55,10 +74,38 @@ void TovuNativeSurveyManagerPrivate::finishFlush(const std::shared_ptr<FlushStat
 
 void TovuNativeSurveyManagerPrivate::flush(std::function<void(bool)> completion)
 {
-    flush(queue().load(), std::move(completion));
+    TovuOfflineQueue::Stored stored;
+    if (auto known = queue().loadWithoutDecoding(&stored)) {
+        flush(*std::move(known), std::move(completion));
+        return;
+    }
+    // A queue read at launch can be megabytes of JSON: decoded off the GUI thread,
+    // with the queue's own copy. The backend client carries the result, so the
+    // flush goes on without the manager.
+    using Decoded = std::pair<std::vector<TovuQueuedResponse>, std::vector<TovuQueuedResponse>>;
+    const QByteArray blob = stored.blob;
+    inBackground(
+        &service,
+        [blob] {
+            auto responses = TovuOfflineQueue::decode(blob);
+            return Decoded(responses, responses);
+        },
+        [manager = QPointer(q), service = QPointer(&service), stored = std::move(stored),
+         completion = std::move(completion)](Decoded decoded) mutable {
+            if (manager)
+                manager->d->queue().adopt(std::move(stored), std::move(decoded.second));
+            start(service, manager, std::move(decoded.first), std::move(completion));
+        });
 }
 
 void TovuNativeSurveyManagerPrivate::flush(std::vector<TovuQueuedResponse> responses,
+                                           std::function<void(bool)> completion)
+{
+    start(&service, q, std::move(responses), std::move(completion));
+}
+
+void TovuNativeSurveyManagerPrivate::start(TovuNetworkService *service, TovuNativeSurveyManager *manager,
+                                           std::vector<TovuQueuedResponse> responses,
                                            std::function<void(bool)> completion)
 {
     auto state = std::make_shared<FlushState>();
@@ -70,8 +117,8 @@ void TovuNativeSurveyManagerPrivate::flush(std::vector<TovuQueuedResponse> respo
     }
     TovuLog::print(">>> Tovu SDK: Flushing " + std::to_string(state->responses.size()) + " offline response(s)...");
     state->completion = std::move(completion);
-    state->manager = q;
-    state->service = &service;
+    state->manager = manager;
+    state->service = service;
 
     startSends(state);
 }
@@ -113,12 +160,9 @@ std::vector<TovuQueuedResponse> TovuNativeSurveyManager::getQueuedResponses() co
 
 void TovuNativeSurveyManagerPrivate::pathUpdated(TovuPathStatus status)
 {
+    // Back from offline or not, an empty queue makes a flush that does nothing.
     const bool satisfied = status == TovuPathStatus::satisfied;
-    if (satisfied) {
-        // Back from offline: flush whatever is there; otherwise only a queue with something in it.
-        auto responses = queue().load();
-        if (wasOffline || !responses.empty())
-            flush(std::move(responses), nullptr);
-    }
+    if (satisfied)
+        flush(nullptr);
     wasOffline = !satisfied;
 }

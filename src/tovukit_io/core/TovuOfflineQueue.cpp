@@ -23,15 +23,57 @@ TovuOfflineQueue::TovuOfflineQueue(TovuKeyValueStore &store, std::string key)
     , m_key(std::move(key))
 { }
 
-const TovuOfflineQueue::Snapshot &TovuOfflineQueue::current() const
+std::vector<TovuQueuedResponse> TovuOfflineQueue::decode(const QByteArray &blob)
 {
-    const QByteArray blob = m_store.data(m_key).value_or(QByteArray());
-    if (m_hasSnapshot && blob == m_snapshot.blob)
-        return m_snapshot;
     auto decoded = tovuDecode<std::vector<TovuQueuedResponse>>(
         std::string_view(blob.constData(), static_cast<std::size_t>(blob.size())));
-    m_snapshot = Snapshot{blob, decoded ? std::move(*decoded) : std::vector<TovuQueuedResponse>()};
+    return decoded ? *std::move(decoded) : std::vector<TovuQueuedResponse>();
+}
+
+bool TovuOfflineQueue::snapshotIsCurrent() const
+{
+    return m_hasSnapshot && m_snapshotRevision && m_snapshotRevision == m_store.revision();
+}
+
+std::optional<std::vector<TovuQueuedResponse>> TovuOfflineQueue::loadWithoutDecoding(Stored *stored) const
+{
+    if (snapshotIsCurrent())
+        return m_snapshot.responses;
+    const auto revision = m_store.revision();
+    QByteArray blob = m_store.data(m_key).value_or(QByteArray());
+    if (m_hasSnapshot && blob == m_snapshot.blob) {
+        m_snapshotRevision = revision;
+        return m_snapshot.responses;
+    }
+    if (blob.trimmed().isEmpty() || blob.trimmed() == "[]")
+        return std::vector<TovuQueuedResponse>();
+    if (stored)
+        *stored = Stored{std::move(blob), revision};
+    return std::nullopt;
+}
+
+void TovuOfflineQueue::adopt(Stored stored, std::vector<TovuQueuedResponse> responses)
+{
+    // Only if nobody wrote in between: otherwise the next read decodes afresh.
+    if (!stored.revision || stored.revision != m_store.revision())
+        return;
+    m_snapshot = Snapshot{std::move(stored.blob), std::move(responses)};
     m_hasSnapshot = true;
+    m_snapshotRevision = stored.revision;
+}
+
+const TovuOfflineQueue::Snapshot &TovuOfflineQueue::current() const
+{
+    if (snapshotIsCurrent())
+        return m_snapshot;
+    const auto revision = m_store.revision();
+    QByteArray blob = m_store.data(m_key).value_or(QByteArray());
+    if (!m_hasSnapshot || blob != m_snapshot.blob) {
+        auto responses = decode(blob);
+        m_snapshot = Snapshot{std::move(blob), std::move(responses)};
+        m_hasSnapshot = true;
+    }
+    m_snapshotRevision = revision;
     return m_snapshot;
 }
 
@@ -40,12 +82,23 @@ std::vector<TovuQueuedResponse> TovuOfflineQueue::load() const
     return current().responses;
 }
 
-bool TovuOfflineQueue::store(const std::vector<TovuQueuedResponse> &responses)
+std::optional<QByteArray> TovuOfflineQueue::encode(const std::vector<TovuQueuedResponse> &responses)
 {
     const auto encoded = tovuEncode(responses);
     if (!encoded)
-        return false;
-    return write(QByteArray::fromStdString(*encoded), responses);
+        return std::nullopt;
+    return QByteArray::fromStdString(*encoded);
+}
+
+bool TovuOfflineQueue::store(const std::vector<TovuQueuedResponse> &responses)
+{
+    auto blob = encode(responses);
+    return blob && write(*std::move(blob), responses);
+}
+
+bool TovuOfflineQueue::storeEncoded(QByteArray blob, std::vector<TovuQueuedResponse> responses)
+{
+    return write(std::move(blob), std::move(responses));
 }
 
 std::size_t TovuOfflineQueue::enqueue(const TovuQueuedResponse &response)
@@ -63,7 +116,7 @@ std::size_t TovuOfflineQueue::enqueue(const TovuQueuedResponse &response)
     }
     m_snapshot.blob = arrayWith(m_snapshot.blob, m_snapshot.responses.size(), *record);
     m_snapshot.responses.push_back(response);
-    m_store.setData(m_key, m_snapshot.blob);
+    put();
     return m_snapshot.responses.size();
 }
 
@@ -74,8 +127,18 @@ void TovuOfflineQueue::clear()
 
 bool TovuOfflineQueue::write(QByteArray blob, std::vector<TovuQueuedResponse> responses)
 {
-    const bool durable = m_store.setData(m_key, blob);
     m_snapshot = Snapshot{std::move(blob), std::move(responses)};
+    return put();
+}
+
+bool TovuOfflineQueue::put()
+{
+    // Our write moves the store's revision by one; by more, someone else wrote
+    // as well, and the next read compares the stored bytes.
+    const auto before = m_store.revision();
+    const bool durable = m_store.setData(m_key, m_snapshot.blob);
+    const auto after = m_store.revision();
     m_hasSnapshot = true;
+    m_snapshotRevision = before && after && *after == *before + 1 ? after : std::nullopt;
     return durable;
 }

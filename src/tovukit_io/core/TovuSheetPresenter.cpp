@@ -12,6 +12,17 @@
 #include <tovukit_io/ui/TovuThankYouView.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 
+#include <tovukit_io/core/TovuManagerSupport.h>
+#include <tovukit_io/ui/kit/TovuEmoji.h>
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QScreen>
+
+#include <functional>
+#include <vector>
+
 namespace {
 
 template<class View>
@@ -52,9 +63,89 @@ QWidget *questionPage(TovuPageRequest &request)
     return nullptr;
 }
 
+constexpr QSize phoneSize(390, 844);
+
+// Font files and the font database are shared by the process, so a pool
+// thread can load them: text in the application's font, plain and bold, and
+// emoji, drawn into a small image.
+void loadFonts()
+{
+    QImage image(64, 64, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    QFont font = QGuiApplication::font();
+    for (const bool bold : {false, true}) {
+        font.setBold(bold);
+        painter.setFont(font);
+        painter.drawText(0, 32, QStringLiteral("Aa0?"));
+    }
+    painter.setFont(TovuEmoji::font(16));
+    painter.drawText(0, 32, QStringLiteral("\U0001F600"));
+}
+
+// A sheet with one page, laid out off screen, then painted band by band:
+// the first paint of a text loads its glyphs, which is what takes the time.
+class OffScreenSheet
+{
+public:
+    static constexpr int bands = 4;
+
+    OffScreenSheet(const TovuSurvey &survey, QWidget *page)
+        : m_sheet(survey)
+    {
+        m_sheet.resize(phoneSize);
+        m_sheet.setQuestionView(page);
+        m_sheet.ensurePolished();
+    }
+
+    void paintBand(int band)
+    {
+        const QScreen *screen = QGuiApplication::primaryScreen();
+        const qreal scale = screen ? screen->devicePixelRatio() : 1;
+        const int height = (phoneSize.height() + bands - 1) / bands;
+        QImage image(QSize(phoneSize.width(), height) * scale, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(scale);
+        m_sheet.render(&image, QPoint(), QRegion(0, band * height, phoneSize.width(), height));
+    }
+
+private:
+    TovuToasterView m_sheet;
+};
+
+// Each page is built in one turn of the event loop and painted a band per
+// turn after it, so no turn holds the GUI thread long.
+using PageMakers = std::vector<std::function<QWidget *()>>;
+
+void paintInTurns(QObject *context, std::shared_ptr<PageMakers> pages, const TovuSurvey &survey,
+                  std::shared_ptr<OffScreenSheet> sheet, int band);
+
+void prepareInTurns(QObject *context, std::shared_ptr<PageMakers> pages, const TovuSurvey &survey)
+{
+    if (pages->empty())
+        return;
+    auto build = std::move(pages->front());
+    pages->erase(pages->begin());
+    TovuManagerSupport::later(context, [context, pages, survey, build = std::move(build)] {
+        paintInTurns(context, pages, survey, std::make_shared<OffScreenSheet>(survey, build()), 0);
+    });
+}
+
+void paintInTurns(QObject *context, std::shared_ptr<PageMakers> pages, const TovuSurvey &survey,
+                  std::shared_ptr<OffScreenSheet> sheet, int band)
+{
+    TovuManagerSupport::later(context, [context, pages, survey, sheet, band] {
+        sheet->paintBand(band);
+        if (band + 1 < OffScreenSheet::bands)
+            paintInTurns(context, pages, survey, sheet, band + 1);
+        else
+            prepareInTurns(context, pages, survey);
+    });
+}
+
 } // namespace
 
 TovuSurveyPresenter::~TovuSurveyPresenter() = default;
+
+void TovuSurveyPresenter::prepare(const TovuSurvey &, TovuPageRequest) { }
 
 TovuSheetPresenter::TovuSheetPresenter(TovuUrlOpener *urlOpener)
     : m_context(std::make_unique<QObject>())
@@ -124,4 +215,23 @@ bool TovuSheetPresenter::isPresenting() const
 QObject *TovuSheetPresenter::sheet() const
 {
     return m_sheet;
+}
+
+void TovuSheetPresenter::prepare(const TovuSurvey &survey, TovuPageRequest firstQuestion)
+{
+    // What is loaded (font files, glyph caches, style data) is shared by the process.
+    static bool prepared = false;
+    if (prepared)
+        return;
+    prepared = true;
+    // Answers from a page nobody sees must go nowhere.
+    firstQuestion.onAnswer = nullptr;
+    firstQuestion.onAdditionalAnswer = nullptr;
+    auto pages = std::make_shared<PageMakers>();
+    if (survey.introPage && survey.introPage->enabled)
+        pages->push_back([intro = *survey.introPage] { return new TovuIntroView(intro); });
+    pages->push_back([firstQuestion = std::move(firstQuestion)] { return createPage(firstQuestion); });
+    TovuManagerSupport::inBackground(
+        m_context.get(), [] { return (loadFonts(), true); },
+        [context = m_context.get(), pages, survey](bool) { prepareInTurns(context, pages, survey); });
 }

@@ -25,6 +25,10 @@ public:
     void dismiss() override;
     bool isPresenting() const override;
     QObject *sheet() const override;
+    /// Once per process, when the event loop is idle: the sheet with the
+    /// intro page, then with the first question, laid out and painted off
+    /// screen, one per turn of the event loop.
+    void prepare(const TovuSurvey &survey, TovuPageRequest firstQuestion) override;
 
     TovuToasterView *toasterView() const { return m_sheet; }
 

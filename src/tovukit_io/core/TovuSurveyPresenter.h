@@ -41,6 +41,11 @@ public:
     virtual bool isPresenting() const = 0;
     /// The open sheet (a TovuToasterView for the Widgets presenter), or null.
     virtual QObject *sheet() const = 0;
+    /// Told when the manager holds a survey that is not on screen yet, with
+    /// the first question's page: a chance to load in idle time what showing
+    /// it will need (fonts, glyphs, styles), so the sheet appears without a
+    /// hitch. Does nothing unless overridden.
+    virtual void prepare(const TovuSurvey &survey, TovuPageRequest firstQuestion);
 
     /// Told when the respondent closes the sheet with Skip.
     std::function<void()> onSkip;

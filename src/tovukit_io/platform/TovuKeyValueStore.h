@@ -34,4 +34,10 @@ public:
     virtual bool setData(std::string_view key, const QByteArray &value) = 0;
     virtual bool setInteger(std::string_view key, std::int64_t value) = 0;
     virtual bool removeValue(std::string_view key) = 0;
+
+    /// A number that moves whenever a value may have changed: on every write
+    /// through this object, and on writes by others sharing the storage. While
+    /// it stays the same, a caller may keep what it last read instead of
+    /// reading it again. Nothing: not tracked, read again every time.
+    virtual std::optional<std::uint64_t> revision() const { return std::nullopt; }
 };

@@ -21,12 +21,14 @@ std::optional<std::int64_t> TovuMemoryKeyValueStore::integer(std::string_view ke
 bool TovuMemoryKeyValueStore::setData(std::string_view key, const QByteArray &value)
 {
     m_values.insert_or_assign(std::string(key), value);
+    ++m_revision;
     return true;
 }
 
 bool TovuMemoryKeyValueStore::setInteger(std::string_view key, std::int64_t value)
 {
     m_values.insert_or_assign(std::string(key), value);
+    ++m_revision;
     return true;
 }
 
@@ -34,5 +36,11 @@ bool TovuMemoryKeyValueStore::removeValue(std::string_view key)
 {
     if (const auto it = m_values.find(key); it != m_values.end())
         m_values.erase(it);
+    ++m_revision;
     return true;
+}
+
+std::optional<std::uint64_t> TovuMemoryKeyValueStore::revision() const
+{
+    return m_revision;
 }

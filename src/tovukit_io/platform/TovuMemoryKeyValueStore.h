@@ -16,7 +16,9 @@ public:
     bool setData(std::string_view key, const QByteArray &value) override;
     bool setInteger(std::string_view key, std::int64_t value) override;
     bool removeValue(std::string_view key) override;
+    std::optional<std::uint64_t> revision() const override;
 
 private:
+    std::uint64_t m_revision = 0;
     std::map<std::string, std::variant<QByteArray, std::int64_t>, std::less<>> m_values;
 };

@@ -3,6 +3,8 @@
 #include <tovukit_io/model/TovuLog.h>
 #include <tovukit_io/platform/TovuMemoryKeyValueStore.h>
 
+#include "TovuSqliteCheckpointer.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -95,6 +97,7 @@ public:
 
     Value read(std::string_view key);
     bool write(std::string_view key, const Value &value);
+    std::uint64_t revision();
 
     const QString path;
     std::mutex mutex;
@@ -117,7 +120,13 @@ private:
     void fallBackToMemory(const QString &why);
     void copyReadableRows();
 
+    void noteOtherWriters();
+
     sqlite3 *m_db = nullptr;
+    std::unique_ptr<TovuSqliteCheckpointer> m_checkpointer;
+    sqlite3_stmt *m_dataVersion = nullptr;
+    sqlite3_int64 m_lastDataVersion = -1;
+    std::uint64_t m_revision = 0;
     sqlite3_stmt *m_select = nullptr;
     sqlite3_stmt *m_upsert = nullptr;
     sqlite3_stmt *m_remove = nullptr;
@@ -181,10 +190,8 @@ std::optional<Failure> TovuSqliteKeyValueStore::Private::connect()
     // syncs only at checkpoints: a killed process loses nothing committed
     // (the log is already in the OS), and a power cut can lose the last
     // commits but never leaves the file inconsistent.
-    // 16 KiB pages (for new files) halve the cost of writing a long queue;
-    // checkpointing every 256 of them keeps the log at SQLite's usual 4 MiB.
-    for (const char *setup : {"PRAGMA page_size=16384", "PRAGMA journal_mode=WAL", "PRAGMA synchronous=NORMAL",
-                              "PRAGMA wal_autocheckpoint=256"}) {
+    // 16 KiB pages (for new files) halve the cost of writing a long queue.
+    for (const char *setup : {"PRAGMA page_size=16384", "PRAGMA journal_mode=WAL", "PRAGMA synchronous=NORMAL"}) {
         if (const int code = sqlite3_exec(m_db, setup, nullptr, nullptr, nullptr); code != SQLITE_OK)
             return failure(code);
     }
@@ -197,11 +204,19 @@ std::optional<Failure> TovuSqliteKeyValueStore::Private::connect()
 
     if (auto failed = prepare("SELECT value FROM kv WHERE key = ?1", &m_select))
         return failed;
+    if (auto failed = prepare("PRAGMA data_version", &m_dataVersion))
+        return failed;
     if (auto failed = prepare("INSERT INTO kv(key, value) VALUES(?1, ?2) "
                               "ON CONFLICT(key) DO UPDATE SET value = excluded.value",
                               &m_upsert))
         return failed;
-    return prepare("DELETE FROM kv WHERE key = ?1", &m_remove);
+    if (auto failed = prepare("DELETE FROM kv WHERE key = ?1", &m_remove))
+        return failed;
+    // The log is folded back into the file on another thread, at 256 pages
+    // (SQLite's usual 4 MiB with these pages).
+    m_checkpointer = std::make_unique<TovuSqliteCheckpointer>(path);
+    m_checkpointer->watch(m_db);
+    return std::nullopt;
 }
 
 std::optional<Failure> TovuSqliteKeyValueStore::Private::prepare(const char *sql, sqlite3_stmt **statement)
@@ -246,7 +261,8 @@ Failure TovuSqliteKeyValueStore::Private::failure(int code) const
 
 void TovuSqliteKeyValueStore::Private::close()
 {
-    for (sqlite3_stmt **statement : {&m_select, &m_upsert, &m_remove}) {
+    m_checkpointer.reset();
+    for (sqlite3_stmt **statement : {&m_select, &m_upsert, &m_remove, &m_dataVersion}) {
         sqlite3_finalize(*statement);
         *statement = nullptr;
     }
@@ -292,10 +308,34 @@ Value TovuSqliteKeyValueStore::Private::read(std::string_view key)
 bool TovuSqliteKeyValueStore::Private::write(std::string_view key, const Value &value)
 {
     const std::lock_guard lock(mutex);
+    ++m_revision;
     if (!memory && writeToFile(key, value))
         return true;
     writeToMemory(key, value);
     return false;
+}
+
+std::uint64_t TovuSqliteKeyValueStore::Private::revision()
+{
+    const std::lock_guard lock(mutex);
+    if (!memory)
+        noteOtherWriters();
+    return m_revision;
+}
+
+// Commits of other connections (other store objects, other processes) move
+// SQLite's data version; ours do not, write() counts those.
+void TovuSqliteKeyValueStore::Private::noteOtherWriters()
+{
+    if (sqlite3_step(m_dataVersion) == SQLITE_ROW) {
+        const sqlite3_int64 version = sqlite3_column_int64(m_dataVersion, 0);
+        if (version != m_lastDataVersion)
+            ++m_revision;
+        m_lastDataVersion = version;
+    } else {
+        ++m_revision; // not known: say it may have changed
+    }
+    sqlite3_reset(m_dataVersion);
 }
 
 std::optional<Value> TovuSqliteKeyValueStore::Private::readFromFile(std::string_view key)
@@ -416,6 +456,11 @@ bool TovuSqliteKeyValueStore::setInteger(std::string_view key, std::int64_t valu
 bool TovuSqliteKeyValueStore::removeValue(std::string_view key)
 {
     return d->write(key, std::monostate{});
+}
+
+std::optional<std::uint64_t> TovuSqliteKeyValueStore::revision() const
+{
+    return d->revision();
 }
 
 QString TovuSqliteKeyValueStore::path() const

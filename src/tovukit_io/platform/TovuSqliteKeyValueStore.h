@@ -8,6 +8,8 @@
 
 /// The key-value store kept in one SQLite file (WAL mode, one table
 /// `kv(key TEXT PRIMARY KEY, value BLOB)`); each write is committed on its own.
+/// The log is checkpointed into the file on a thread of the store's own, so
+/// a write costs the caller its commit and no more.
 ///
 /// A store never fails its caller. When the file cannot be used it reports
 /// one ">>> Tovu SDK Error: " line through TovuLog and goes on:
@@ -44,6 +46,7 @@ public:
     bool setData(std::string_view key, const QByteArray &value) override;
     bool setInteger(std::string_view key, std::int64_t value) override;
     bool removeValue(std::string_view key) override;
+    std::optional<std::uint64_t> revision() const override;
 
     QString path() const;
     /// False once the store has fallen back to memory.
