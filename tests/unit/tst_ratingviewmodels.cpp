@@ -7,15 +7,11 @@
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 
-#include <QGuiApplication>
-#include <QRegularExpression>
-
 #include "TovuViewModelTesting.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -53,47 +49,21 @@ TovuQuestion grid(bool required, std::vector<TovuChoice> rows, int columns)
 
 using TovuViewModelTesting::Recorder;
 
-// Which of `count` buttons show as chosen.
-std::set<int> chosen(const TovuRatingQuestionViewModel &model)
-{
-    std::set<int> result;
-    for (int rating = 1; rating <= model.buttonCount(); ++rating) {
-        if (model.isSelected(rating))
-            result.insert(rating);
-    }
-    return result;
-}
-
 } // namespace
 
-TEST(RatingVariant, SurveyStylesMapIgnoringCaseAndDefaultToStar)
+TEST(RatingVariant, SurveyStylesMapIgnoringCaseAndRawValuesRoundTrip)
 {
-    const std::vector<std::pair<std::optional<std::string_view>, Variant>> cases{
-        {"stars", Variant::star},
-        {"STARS", Variant::star},
-        {"star", Variant::star},
-        {"heart", Variant::heart},
-        {"HeArT", Variant::heart},
-        {"hearts", Variant::star},
-        {"circle", Variant::circle},
-        {"tile", Variant::tile},
-        {"Emoji", Variant::emoji},
-        {"numeric", Variant::star},
-        {"NUMERIC", Variant::star},
-        {" emoji", Variant::star},
-        {"", Variant::star},
-        {std::nullopt, Variant::star},
-        {"\xC3\x89MOJI", Variant::star}, // "ÉMOJI": non-ASCII bytes pass through
-        {"\xFF\xFE\x80", Variant::star}, // not UTF-8 at all
-    };
-    for (const auto &[style, expected] : cases) {
-        SCOPED_TRACE(std::string(style.value_or("(none)")));
-        EXPECT_EQ(ratingVariantFrom(style), expected);
-    }
-}
-
-TEST(RatingVariant, RawValuesRoundTrip)
-{
+    EXPECT_EQ(ratingVariantFrom("heart"), Variant::heart);
+    EXPECT_EQ(ratingVariantFrom("HeArT"), Variant::heart);
+    EXPECT_EQ(ratingVariantFrom("circle"), Variant::circle);
+    EXPECT_EQ(ratingVariantFrom("tile"), Variant::tile);
+    EXPECT_EQ(ratingVariantFrom("Emoji"), Variant::emoji);
+    // Anything else is a star: "stars", other plurals, numbers, blanks, "ÉMOJI" (non-ASCII
+    // bytes pass through) and text that is not UTF-8 at all.
+    for (const char *style :
+         {"stars", "STARS", "star", "hearts", "numeric", "NUMERIC", " emoji", "", "\xC3\x89MOJI", "\xFF\xFE\x80"})
+        EXPECT_EQ(ratingVariantFrom(style), Variant::star) << style;
+    EXPECT_EQ(ratingVariantFrom(std::nullopt), Variant::star);
     const std::array<std::string_view, 6> texts{"STAR", "HEART", "CIRCLE", "TILE", "EMOJI", "NUMERIC"};
     for (std::size_t i = 0; i < allVariants.size(); ++i) {
         EXPECT_EQ(rawValue(allVariants[i]), texts[i]);
@@ -105,16 +75,14 @@ TEST(RatingVariant, RawValuesRoundTrip)
 
 TEST(RatingViewModel, ButtonCountComesFromColumnsElseMaxRating)
 {
-    struct Case {
-        std::optional<int> columns;
-        int maxRating;
-        int buttons;
-    };
-    for (const Case &c : {Case{7, 5, 7}, Case{std::nullopt, 5, 5}, Case{std::nullopt, 0, 1}, Case{0, 3, 3},
-                          Case{std::nullopt, -4, 1}, Case{2, 10, 2}, Case{std::nullopt, 1 << 30, 100}}) {
-        SCOPED_TRACE(c.maxRating);
-        const TovuQuestion q = ratingQuestion(c.columns ? std::optional(choices("c", *c.columns)) : std::nullopt);
-        EXPECT_EQ(TovuRatingQuestionViewModel(q, Variant::star, c.maxRating, false).buttonCount(), c.buttons);
+    // Columns, maxRating, buttons.
+    const std::vector<std::tuple<std::optional<int>, int, int>> cases{
+        {7, 5, 7},  {std::nullopt, 5, 5},        {std::nullopt, 0, 1}, {0, 3, 3}, {std::nullopt, -4, 1},
+        {2, 10, 2}, {std::nullopt, 1 << 30, 100}};
+    for (const auto &[columns, maxRating, buttons] : cases) {
+        SCOPED_TRACE(maxRating);
+        const TovuQuestion q = ratingQuestion(columns ? std::optional(choices("c", *columns)) : std::nullopt);
+        EXPECT_EQ(TovuRatingQuestionViewModel(q, Variant::star, maxRating, false).buttonCount(), buttons);
     }
     TovuQuestion labelled = ratingQuestion(choices("c", 3));
     EXPECT_TRUE(TovuRatingQuestionViewModel(labelled, Variant::star, 5, false).columnLabels().isEmpty());
@@ -128,76 +96,85 @@ TEST(RatingViewModel, ButtonCountComesFromColumnsElseMaxRating)
 
 TEST(RatingViewModel, StarsAndNumbersFillUpToTheRatingOthersMarkOne)
 {
-    struct Case {
-        Variant variant;
-        std::set<int> chosen;
-        QString symbolOfTwo;
-        QString titleOfThree;
-    };
-    const std::vector<Case> cases{
-        {Variant::star, {1, 2, 3}, QStringLiteral("star.fill"), {}},
-        {Variant::numeric, {1, 2, 3}, {}, QStringLiteral("3")},
-        {Variant::heart, {3}, QStringLiteral("heart"), {}},
-        {Variant::circle, {3}, QStringLiteral("circle"), {}},
-        {Variant::tile, {3}, QStringLiteral("square"), {}},
-        {Variant::emoji, {3}, {}, QString::fromUtf8("\xF0\x9F\x98\x90")},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(std::string(rawValue(c.variant)));
-        TovuRatingQuestionViewModel model(ratingQuestion(), c.variant, 5, false);
+    // After rating 3 of 5: the buttons marked, the symbols of buttons 2 and 3, the title of
+    // button 3 and what a screen reader says for button 2.
+    const std::vector<std::tuple<Variant, std::set<int>, const char *, const char *, const char *>> cases{
+        {Variant::star, {1, 2, 3}, "star.fill star.fill", "", "2 of 5 stars"},
+        {Variant::numeric, {1, 2, 3}, " ", "3", "2 of 5"},
+        {Variant::heart, {3}, "heart heart.fill", "", "2 of 5 hearts"},
+        {Variant::circle, {3}, "circle circle.fill", "", "2 of 5 circles"},
+        {Variant::tile, {3}, "square square.fill", "", "2 of 5 tiles"},
+        {Variant::emoji, {3}, " ", "\xF0\x9F\x98\x90", "2 of 5"}};
+    for (const auto &[variant, marked, symbols, titleOfThree, nameOfTwo] : cases) {
+        SCOPED_TRACE(std::string(rawValue(variant)));
+        TovuRatingQuestionViewModel model(ratingQuestion(), variant, 5, false);
         EXPECT_FALSE(model.isActionVisible());
         model.rate(0);
         model.rate(6);
         EXPECT_FALSE(model.selectedRating()) << "outside the scale: ignored";
         model.rate(3);
         EXPECT_EQ(model.selectedRating(), 3);
-        EXPECT_EQ(chosen(model), c.chosen);
-        EXPECT_EQ(model.symbolName(2), c.symbolOfTwo);
-        EXPECT_EQ(model.buttonTitle(3), c.titleOfThree);
+        std::set<int> chosen;
+        for (int rating = 0; rating <= 6; ++rating) {
+            if (model.isSelected(rating))
+                chosen.insert(rating);
+        }
+        EXPECT_EQ(chosen, marked);
+        EXPECT_EQ(QString(model.symbolName(2) + u' ' + model.symbolName(3)), QString::fromUtf8(symbols));
+        EXPECT_EQ(model.buttonTitle(3), QString::fromUtf8(titleOfThree));
+        EXPECT_EQ(model.accessibleName(2), QString::fromUtf8(nameOfTwo));
         EXPECT_TRUE(model.isActionVisible());
     }
-    EXPECT_EQ(TovuRatingQuestionViewModel(ratingQuestion(), Variant::tile, 5, false).symbolName(1),
-              QStringLiteral("square"));
     const TovuRatingQuestionViewModel faces(ratingQuestion(), Variant::emoji, 10, false);
     const QStringList expected = QString::fromUtf8("😞 😕 😐 🙂 😁 ⭐ ⭐ ⭐ ⭐ ⭐").split(u' ');
     for (int rating = 1; rating <= 10; ++rating)
         EXPECT_EQ(faces.buttonTitle(rating), expected[rating - 1]) << rating;
 }
 
-TEST(RatingViewModel, FollowUpIsTheFirstMatchingConditionalElseTheQuestions)
+TEST(RatingViewModel, ATapOpensTheFirstMatchingFollowUpAndTheActionReportsOnlyTheRating)
 {
-    TovuQuestion q = ratingQuestion();
+    TovuQuestion q = ratingQuestion(choices("c", 5));
+    q.options = choices("o", 2);
     q.conditionalFollowUps = std::vector<TovuConditionalFollowUp>{
         {.minRating = 1, .maxRating = 2, .followUpQuestion = "What went wrong?"},
         {.minRating = 2, .maxRating = 3, .followUpQuestion = "Overlapping"},
         {.minRating = 5, .maxRating = 5, .followUpQuestion = "What did you love?"}};
     q.followUpQuestion = "Anything else?";
-    struct Case {
-        TovuQuestion question;
-        bool isLast;
-        int rating;
-        std::optional<QString> followUp;
-        QString action;
-    };
-    TovuQuestion plain = ratingQuestion();
+    TovuQuestion plain = ratingQuestion(); // no options, columns or follow-ups
     const QString next = QStringLiteral("Next \u2192");
     const QString submit = QStringLiteral("Submit");
-    const std::vector<Case> cases{
-        {q, false, 1, QStringLiteral("What went wrong?"), submit},
-        {q, false, 2, QStringLiteral("What went wrong?"), submit},
-        {q, false, 3, QStringLiteral("Overlapping"), submit},
-        {q, false, 4, QStringLiteral("Anything else?"), submit},
-        {q, false, 5, QStringLiteral("What did you love?"), submit},
-        {plain, false, 4, std::nullopt, next},
-        {plain, true, 4, std::nullopt, submit},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.rating);
-        TovuRatingQuestionViewModel model(c.question, Variant::star, 5, c.isLast);
-        model.rate(c.rating);
-        EXPECT_EQ(model.isFollowUpVisible(), c.followUp.has_value());
-        EXPECT_EQ(model.followUpText(), c.followUp.value_or(QString()));
-        EXPECT_EQ(model.actionTitle(), c.action);
+    // The question, whether it is the last, the rating, the follow-up ("" for none), the
+    // action, the column id reported.
+    const std::vector<std::tuple<TovuQuestion, bool, int, const char *, QString, std::string>> cases{
+        {q, false, 1, "What went wrong?", submit, "c1"},
+        {q, false, 2, "What went wrong?", submit, "c2"},
+        {q, false, 3, "Overlapping", submit, "c3"},
+        {q, false, 4, "Anything else?", submit, "c4"},
+        {q, false, 5, "What did you love?", submit, "c5"},
+        {plain, false, 4, "", next, "4"},
+        {plain, true, 5, "", submit, "5"}};
+    for (const auto &[question, isLast, rating, followUp, action, colId] : cases) {
+        SCOPED_TRACE(rating);
+        TovuRatingQuestionViewModel model(question, Variant::heart, 5, isLast);
+        Recorder recorder;
+        recorder.attach(model);
+        model.submit(); // nothing rated yet: nothing at all
+        model.rate(rating);
+        EXPECT_EQ(model.isFollowUpVisible(), *followUp != '\0');
+        EXPECT_EQ(model.followUpText(), QString::fromUtf8(followUp));
+        EXPECT_EQ(model.actionTitle(), action);
+        model.submit();
+        model.submit();
+        ASSERT_EQ(recorder.answers.size(), 2u);
+        const std::string rowId = recorder.answers[0].value.at(0).rowId;
+        EXPECT_EQ(recorder.answers[0], (TovuAnswer{"q", {{.rowId = rowId, .colId = colId}}})) << "no follow-up text";
+        if (question.options) {
+            EXPECT_EQ(rowId, "o1");
+        } else {
+            EXPECT_TRUE(TovuViewModelTesting::isUpperCaseUuid(rowId)) << rowId;
+            EXPECT_NE(recorder.answers[1].value.at(0).rowId, rowId) << "a fresh row id on every submit";
+        }
+        EXPECT_EQ(recorder.shakes, 0);
     }
     plain.conditionalFollowUps = q.conditionalFollowUps; // rating 4 matches none and there is no fallback
     TovuRatingQuestionViewModel gap(plain, Variant::star, 5, false);
@@ -205,52 +182,6 @@ TEST(RatingViewModel, FollowUpIsTheFirstMatchingConditionalElseTheQuestions)
     gap.rate(4);
     EXPECT_FALSE(gap.isFollowUpVisible()) << "each tap re-evaluates";
     EXPECT_EQ(gap.actionTitle(), next);
-}
-
-TEST(RatingViewModel, ReportsTheRatingWithRowAndColumnIdsButNoFollowUpText)
-{
-    struct Case {
-        const char *name;
-        std::optional<int> columns;
-        bool options;
-        int rating;
-        std::string colId;
-    };
-    const std::vector<Case> cases{
-        {"fifth of five columns", 5, true, 5, "c5"},
-        {"no columns: the rating", std::nullopt, true, 5, "5"},
-        {"no options: a fresh row id", 3, false, 2, "c2"},
-    };
-    const QRegularExpression uuid(QStringLiteral("^[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}$"));
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        TovuQuestion q = ratingQuestion(c.columns ? std::optional(choices("c", *c.columns)) : std::nullopt);
-        if (c.options)
-            q.options = choices("o", 2);
-        q.followUpQuestion = "Tell us more";
-        TovuRatingQuestionViewModel model(q, Variant::heart, 5, false);
-        Recorder recorder;
-        recorder.attach(model);
-        model.submit(); // nothing rated yet: nothing at all
-        EXPECT_TRUE(recorder.answers.empty());
-        model.rate(c.rating);
-        model.submit();
-        model.submit();
-        ASSERT_EQ(recorder.answers.size(), 2u);
-        const TovuAnswer &answer = recorder.answers[0];
-        EXPECT_EQ(answer.questionId, "q");
-        ASSERT_EQ(answer.value.size(), 1u);
-        EXPECT_EQ(answer.value[0].colId, c.colId);
-        EXPECT_FALSE(answer.value[0].text) << "the follow-up only prompts";
-        EXPECT_FALSE(answer.value[0].type);
-        if (c.options) {
-            EXPECT_EQ(answer.value[0].rowId, "o1");
-        } else {
-            EXPECT_TRUE(uuid.match(QString::fromStdString(answer.value[0].rowId)).hasMatch());
-            EXPECT_NE(recorder.answers[1].value[0].rowId, answer.value[0].rowId);
-        }
-        EXPECT_EQ(recorder.shakes, 0);
-    }
 }
 
 TEST(RatingViewModel, ActiveColourIsTheRatingColourElseOrange)
@@ -267,25 +198,6 @@ TEST(RatingViewModel, ActiveColourIsTheRatingColourElseOrange)
         EXPECT_EQ(TovuRatingQuestionViewModel(q, Variant::star, 5, false).activeColor(), expected);
         EXPECT_EQ(TovuMultiRatingQuestionViewModel(q, Variant::star, false).activeColor(), expected);
     }
-}
-
-TEST(MultiRatingViewModel, TapsRateARowThroughWellFormedIdentifiersOnly)
-{
-    TovuMultiRatingQuestionViewModel model(grid(true, choices("r", 2), 5), Variant::star, false);
-    EXPECT_EQ(TovuMultiRatingQuestionViewModel::identifier("r1", "c3"), QStringLiteral("r1::c3"));
-    model.submit(); // shows the message, which a valid tap hides
-    for (const char *ignored : {"r1", "r1::c3::x", "", "::", "r9::c3", "r1::c9", "r1:c3"})
-        model.tap(QString::fromUtf8(ignored));
-    EXPECT_TRUE(model.selectedCols().empty());
-    EXPECT_TRUE(model.isValidationVisible());
-
-    model.tap(QStringLiteral("r1::c3"));
-    EXPECT_FALSE(model.isValidationVisible());
-    EXPECT_EQ(model.selectedCols(), (std::map<std::string, std::string>{{"r1", "c3"}}));
-    model.tap(QStringLiteral("r1::c2")); // re-rating replaces
-    EXPECT_EQ(model.selectedCols(), (std::map<std::string, std::string>{{"r1", "c2"}}));
-    EXPECT_EQ(model.selectedPosition(QStringLiteral("r1")), 2);
-    EXPECT_EQ(model.selectedPosition(QStringLiteral("r2")), 0);
 }
 
 TEST(MultiRatingViewModel, EverySymbolFillsUpToTheChoiceFacesStandAlone)
@@ -315,48 +227,38 @@ TEST(MultiRatingViewModel, EverySymbolFillsUpToTheChoiceFacesStandAlone)
 
 TEST(MultiRatingViewModel, RequiredGridsNeedEveryRowAndAnswersFollowRowOrder)
 {
-    struct Case {
-        const char *name;
-        bool required;
-        std::vector<const char *> taps;
-        std::optional<std::vector<TovuAnswerValue>> reported; // nullopt: nothing
-        bool refused;
-    };
-    const std::vector<Case> cases{
-        {"required, one row unrated", true, {"b::c1", "c::c2"}, std::nullopt, true},
-        {"optional, nothing rated", false, {}, std::nullopt, false},
-        {"required, nothing rated", true, {}, std::nullopt, true},
-        {"rated against row order, one re-rated",
-         true,
-         {"c::c5", "a::c1", "b::c2", "a::c4"},
-         std::vector<TovuAnswerValue>{
-             {.rowId = "b", .colId = "c2"}, {.rowId = "a", .colId = "c4"}, {.rowId = "c", .colId = "c5"}},
-         false},
-        {"optional, partly rated",
-         false,
-         {"a::c3"},
-         std::vector<TovuAnswerValue>{{.rowId = "a", .colId = "c3"}},
-         false},
-    };
+    EXPECT_EQ(TovuMultiRatingQuestionViewModel::identifier("b", "c3"), QStringLiteral("b::c3"));
     const std::vector<TovuChoice> rows{{.id = "b", .text = "Speed", .value = "b"},
                                        {.id = "a", .text = "Price", .value = "a"},
                                        {.id = "c", .text = "Support", .value = "c"}};
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        TovuMultiRatingQuestionViewModel model(grid(c.required, rows, 5), Variant::circle, true);
+    // Whether the grid is required, the taps, whether submit is refused, what it reports
+    // (nothing when empty). Taps that are not "row::column" of this grid rate nothing.
+    const std::vector<std::tuple<bool, std::vector<const char *>, bool, std::vector<TovuAnswerValue>>> cases{
+        {true, {"b::c1", "c::c2", "a", "a::c1::x", "", "::", "z::c1", "a::c9", "a:c1"}, true, {}},
+        {false, {}, false, {}},
+        {true, {}, true, {}},
+        // Rated against row order, one row twice.
+        {true,
+         {"c::c5", "a::c1", "b::c2", "a::c4"},
+         false,
+         {{.rowId = "b", .colId = "c2"}, {.rowId = "a", .colId = "c4"}, {.rowId = "c", .colId = "c5"}}},
+        {false, {"a::c3"}, false, {{.rowId = "a", .colId = "c3"}}}};
+    for (const auto &[required, taps, refused, reported] : cases) {
+        SCOPED_TRACE(testing::Message() << required << ", " << taps.size() << " taps");
+        TovuMultiRatingQuestionViewModel model(grid(required, rows, 5), Variant::circle, true);
         Recorder recorder;
         recorder.attach(model);
         EXPECT_EQ(model.actionTitle(), QStringLiteral("Submit"));
-        for (const char *tap : c.taps)
+        for (const char *tap : taps)
             model.tap(QString::fromUtf8(tap));
         model.submit();
-        EXPECT_EQ(model.isValidationVisible(), c.refused);
-        EXPECT_EQ(recorder.shakes, c.refused ? 1 : 0);
+        EXPECT_EQ(model.isValidationVisible(), refused);
+        EXPECT_EQ(recorder.shakes, refused ? 1 : 0);
         EXPECT_EQ(model.validationMessage(), QStringLiteral("Please rate all items."));
-        if (c.reported)
-            EXPECT_EQ(recorder.answers, (std::vector<TovuAnswer>{{.questionId = "grid", .value = *c.reported}}));
-        else
-            EXPECT_TRUE(recorder.answers.empty());
+        const std::vector<TovuAnswer> expected{{.questionId = "grid", .value = reported}};
+        EXPECT_EQ(recorder.answers, reported.empty() ? std::vector<TovuAnswer>{} : expected);
+        model.tap(QStringLiteral("a::c2"));
+        EXPECT_FALSE(model.isValidationVisible()) << "a tap hides the message";
     }
     TovuMultiRatingQuestionViewModel none(std::nullopt, Variant::star, false);
     none.tap(QStringLiteral("a::c1"));
