@@ -274,6 +274,8 @@ void TovuNativeSurveyManager::startIntercept(double afterDelaySeconds, QWidget *
         d->triggerTimer->deleteLater(); // stopped with it: only the newest intercept fires
     auto *timer = new QTimer(this);
     timer->setSingleShot(true);
+    // A coarse timer may fire 5 % early; "after 3 s" must not mean 2.85 s.
+    timer->setTimerType(Qt::PreciseTimer);
     const double ms = std::isfinite(afterDelaySeconds) ? std::clamp(afterDelaySeconds * 1000.0, 0.0, 2.0e9) : 0.0;
     timer->setInterval(static_cast<int>(ms));
     connect(timer, &QTimer::timeout, this, [this, weakHost = QPointer(host)] {
