@@ -8,7 +8,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 # CI builds treat warnings as errors.
 WERROR := $(if $(CI),ON,OFF)
 
-.PHONY: all bootstrap configure build test demo bench screenshots format format-check clean
+.PHONY: all bootstrap configure build test demo docs-screenshots bench screenshots format format-check clean
 
 all: build
 
@@ -24,10 +24,24 @@ build: configure
 test: build
 	ctest --preset $(PRESET) -j $(JOBS)
 
-# Until the demo application lands, the demo shows what the library makes of
-# every bundled survey document.
-demo: build
-	$(BUILD_DIR)/tools/inspect/tovu-inspect samples/surveys/*.json
+# tovu-demo: its window where there is a display; without one it answers the
+# survey with every question type by itself, prints the response the backend
+# stored and leaves a screenshot of every page. DEMO_ARGS passes options on,
+# e.g. make demo DEMO_ARGS="--offline-first --dark" (tovu-demo --help lists them).
+DEMO := $(BUILD_DIR)/examples/demo/tovu-demo
+DEMO_ARGS ?=
+
+demo: configure
+	cmake --build --preset $(PRESET) -j $(JOBS) --target tovu-demo
+	$(DEMO) --screenshots $(BUILD_DIR)/demo-screenshots $(DEMO_ARGS)
+
+# The README's pictures in docs/screenshots/: the demo's autoplay, one PNG per
+# page of the every-question-type sample and one of the window, 256 colours.
+docs-screenshots: configure
+	cmake --build --preset $(PRESET) -j $(JOBS) --target tovu-demo
+	rm -f docs/screenshots/*.png
+	QT_QPA_PLATFORM=offscreen $(DEMO) --autoplay --palette-png --screenshots docs/screenshots > /dev/null
+	@ls docs/screenshots
 
 # PNGs of the survey sheet, its pages and the widget kit, light and dark, at 2x.
 screenshots: build

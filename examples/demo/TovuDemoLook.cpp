@@ -1,0 +1,85 @@
+#include "TovuDemoLook.h"
+
+#include <tovukit_io/core/TovuNativeSurveyManager.h>
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QStyle>
+
+QColor TovuDemoLook::brandColor(bool dark)
+{
+    return dark ? QColor(0x4C, 0xC3, 0x6E) : QColor(0x1E, 0x8E, 0x3E);
+}
+
+QPalette TovuDemoLook::palette(bool dark)
+{
+    if (!dark) {
+        QPalette light = QApplication::style() ? QApplication::style()->standardPalette() : QPalette();
+        light.setColor(QPalette::Highlight, brandColor(false));
+        light.setColor(QPalette::Link, brandColor(false));
+        return light;
+    }
+    QPalette palette;
+    const QColor window(0x1C, 0x1C, 0x1E);
+    const QColor base(0x2C, 0x2C, 0x2E);
+    const QColor text(0xF2, 0xF2, 0xF7);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, QColor(0x3A, 0x3A, 0x3C));
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::Button, base);
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Light, QColor(0x48, 0x48, 0x4A));
+    palette.setColor(QPalette::Midlight, QColor(0x3A, 0x3A, 0x3C));
+    palette.setColor(QPalette::Mid, QColor(0x2C, 0x2C, 0x2E));
+    palette.setColor(QPalette::Dark, QColor(0x12, 0x12, 0x14));
+    palette.setColor(QPalette::Shadow, Qt::black);
+    palette.setColor(QPalette::Highlight, brandColor(true));
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    palette.setColor(QPalette::Link, brandColor(true));
+    palette.setColor(QPalette::ToolTipBase, base);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x8E, 0x8E, 0x93));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x63, 0x63, 0x66));
+    return palette;
+}
+
+TovuAppTheme TovuDemoLook::hostTheme(bool dark)
+{
+    TovuAppTheme theme;
+    theme.primaryColor = brandColor(dark);
+    theme.backgroundColor = dark ? QColor(0x15, 0x1A, 0x16) : QColor(0xF7, 0xFB, 0xF4);
+    theme.textColor = dark ? QColor(0xE8, 0xF0, 0xE6) : QColor(0x1B, 0x2A, 0x1E);
+    theme.cornerRadius = 28;
+    // A family the demo app would ship; the default one where it is missing.
+    const QString family = QStringLiteral("DejaVu Serif");
+    if (QFontDatabase::families().contains(family))
+        theme.fontFamily = family;
+    return theme;
+}
+
+void TovuDemoLook::apply(TovuNativeSurveyManager &manager, bool dark, TovuDemoOptions::Theme theme,
+                         const QColor &primaryColor)
+{
+    QApplication::setPalette(palette(dark));
+    switch (theme) {
+    case TovuDemoOptions::Theme::survey:
+        manager.configureTheme(TovuAppTheme{});
+        break;
+    case TovuDemoOptions::Theme::host:
+        manager.configureTheme(hostTheme(dark));
+        break;
+    case TovuDemoOptions::Theme::primaryColor:
+        manager.configureTheme(TovuAppTheme{});
+        manager.configureTheme(primaryColor);
+        break;
+    }
+}
+
+bool TovuDemoLook::isDark()
+{
+    return QApplication::palette().color(QPalette::Window).lightness() < 128;
+}

@@ -1,0 +1,680 @@
+#include "TovuDemoPagePlayer.h"
+
+#include "TovuDemoInput.h"
+#include "TovuDemoPng.h"
+
+#include <tovukit_io/ui/TovuDropdownQuestionView.h>
+#include <tovukit_io/ui/TovuIntroView.h>
+#include <tovukit_io/ui/TovuMultiNPSQuestionView.h>
+#include <tovukit_io/ui/TovuMultiRatingQuestionView.h>
+#include <tovukit_io/ui/TovuMultipleChoiceQuestionView.h>
+#include <tovukit_io/ui/TovuNPSQuestionView.h>
+#include <tovukit_io/ui/TovuRatingQuestionView.h>
+#include <tovukit_io/ui/TovuSingleChoiceQuestionView.h>
+#include <tovukit_io/ui/TovuTextBoxQuestionView.h>
+#include <tovukit_io/ui/TovuThankYouView.h>
+#include <tovukit_io/ui/TovuToasterView.h>
+#include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/ui/kit/TovuTextArea.h>
+#include <tovukit_io/ui/kit/TovuTextField.h>
+#include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
+
+#include <QDir>
+#include <QLabel>
+#include <QLayout>
+#include <QScrollArea>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// How long a step may wait for its control, and a page for the next one.
+constexpr qint64 stepPatienceMs = 6000;
+constexpr qint64 pagePatienceMs = 8000;
+constexpr int retryMs = 30;
+
+QWidget *currentPage(const TovuToasterView *sheet)
+{
+    if (!sheet || sheet->contentStackView()->count() == 0)
+        return nullptr;
+    return sheet->contentStackView()->itemAt(0)->widget();
+}
+
+QString shortText(const QString &text, qsizetype max = 52)
+{
+    QString simple = text.simplified();
+    if (simple.size() > max)
+        simple = simple.left(max - 1).trimmed() + QChar(0x2026);
+    return simple;
+}
+
+QString shortText(const std::string &text, qsizetype max = 52)
+{
+    return shortText(QString::fromStdString(text), max);
+}
+
+const std::vector<TovuChoice> &optionsOf(const TovuQuestion &question)
+{
+    static const std::vector<TovuChoice> none;
+    return question.options ? *question.options : none;
+}
+
+// The column a scale or matrix answer reports, as the library works it out:
+// the column at that position, else the value itself.
+std::string columnId(const TovuQuestion &question, std::size_t index, int value)
+{
+    if (question.columns && index < question.columns->size())
+        return (*question.columns)[index].id;
+    return std::to_string(value);
+}
+
+std::string columnText(const TovuQuestion &question, std::size_t index)
+{
+    if (question.columns && index < question.columns->size())
+        return (*question.columns)[index].text;
+    return {};
+}
+
+// A scale's row: its first option, or one the library makes up (empty: any).
+std::string scaleRowId(const TovuQuestion &question)
+{
+    return optionsOf(question).empty() ? std::string() : optionsOf(question).front().id;
+}
+
+// Something a respondent would type into a field labelled `label` under a
+// question titled `title`.
+QString plausibleText(const QString &label, const std::optional<std::string> &placeholder, const std::string &title)
+{
+    const QString lower = label.toLower();
+    if (lower.contains(u"mail"))
+        return QStringLiteral("ana.souza@example.com");
+    if (lower.contains(u"phone"))
+        return QStringLiteral("+49 30 1234 5678");
+    if (lower.contains(u"name"))
+        return QStringLiteral("Ana Souza");
+    if (lower.contains(u"time") || lower.contains(u"when"))
+        return QStringLiteral("Weekday evenings");
+    // A placeholder that gives an example is what a respondent would write.
+    const QString hint = placeholder ? QString::fromStdString(*placeholder).trimmed() : QString();
+    if (hint.startsWith(u"e.g. ", Qt::CaseInsensitive) && hint.size() > 8) {
+        QString example = hint.mid(5).trimmed();
+        while (example.endsWith(QChar(0x2026)) || example.endsWith(u'.'))
+            example.chop(1);
+        return example + u'.';
+    }
+    if (lower.contains(u"comment") || lower.contains(u"else"))
+        return QStringLiteral("Happy to help, thanks for asking!");
+    const QString question = QString::fromStdString(title).toLower();
+    if (question.contains(u"before") || question.contains(u"instead"))
+        return QStringLiteral("Pen and paper, mostly.");
+    if (question.contains(u"feature"))
+        return QStringLiteral("Sharing with family members.");
+    for (const char16_t *word : {u"better", u"improve", u"easier", u"wrong", u"add"}) {
+        if (question.contains(QStringView(word)))
+            return QStringLiteral("A short tour in the first few days would help.");
+    }
+    return QStringLiteral("All good so far, thank you.");
+}
+
+std::string joined(const std::vector<std::string> &parts, std::string_view separator = ", ")
+{
+    std::string text;
+    for (const std::string &part : parts) {
+        if (!text.empty())
+            text += separator;
+        text += part;
+    }
+    return text;
+}
+
+} // namespace
+
+TovuDemoPagePlayer::TovuDemoPagePlayer(std::function<TovuToasterView *()> sheet, QWidget *screen, QObject *parent)
+    : QObject(parent)
+    , m_sheet(std::move(sheet))
+    , m_screen(screen)
+{
+    m_poll.setInterval(20);
+    connect(&m_poll, &QTimer::timeout, this, &TovuDemoPagePlayer::poll);
+    m_stepTimer.setSingleShot(true);
+    connect(&m_stepTimer, &QTimer::timeout, this, &TovuDemoPagePlayer::runStep);
+}
+
+TovuDemoPagePlayer::~TovuDemoPagePlayer() = default;
+
+void TovuDemoPagePlayer::start(int pages)
+{
+    m_pages = pages;
+    m_number = 0;
+    m_page = nullptr;
+    m_given.clear();
+    m_screenshots.clear();
+    m_running = true;
+    m_scriptDone = true;
+    m_lastPage = false;
+    m_pageClock.start();
+    m_poll.start();
+}
+
+void TovuDemoPagePlayer::stop()
+{
+    m_running = false;
+    m_poll.stop();
+    m_stepTimer.stop();
+}
+
+QString TovuDemoPagePlayer::kindName(const QWidget *page)
+{
+    if (qobject_cast<const TovuIntroView *>(page))
+        return QStringLiteral("intro");
+    if (qobject_cast<const TovuThankYouView *>(page))
+        return QStringLiteral("thank-you");
+    const auto typeName = [](TovuQuestionType type) {
+        return QString::fromLatin1(rawValue(type)).toLower().replace(u'_', u'-');
+    };
+    if (qobject_cast<const TovuSingleChoiceQuestionView *>(page))
+        return typeName(TovuQuestionType::singleChoice);
+    if (qobject_cast<const TovuMultipleChoiceQuestionView *>(page))
+        return typeName(TovuQuestionType::multipleChoice);
+    if (qobject_cast<const TovuDropdownQuestionView *>(page))
+        return typeName(TovuQuestionType::dropdown);
+    if (const auto *text = qobject_cast<const TovuTextBoxQuestionView *>(page)) {
+        const std::optional<TovuQuestion> &question = text->question();
+        const bool multiple = question && question->type == TovuQuestionType::multipleTextBox;
+        return typeName(multiple ? TovuQuestionType::multipleTextBox : TovuQuestionType::singleTextBox);
+    }
+    if (qobject_cast<const TovuNPSQuestionView *>(page))
+        return typeName(TovuQuestionType::nps);
+    if (qobject_cast<const TovuMultiNPSQuestionView *>(page))
+        return typeName(TovuQuestionType::multiNps);
+    if (qobject_cast<const TovuRatingQuestionView *>(page))
+        return typeName(TovuQuestionType::rating);
+    if (qobject_cast<const TovuMultiRatingQuestionView *>(page))
+        return typeName(TovuQuestionType::multiRating);
+    return QStringLiteral("page");
+}
+
+// -- the page loop ---------------------------------------------------------------
+
+void TovuDemoPagePlayer::poll()
+{
+    if (!m_running || (m_page && !m_scriptDone))
+        return; // a page's script is under way
+    QWidget *page = currentPage(m_sheet ? m_sheet() : nullptr);
+    if (page && page != m_page.data() && page->isVisible()) {
+        begin(page);
+        return;
+    }
+    if (m_number > 0 && m_pageClock.elapsed() > pagePatienceMs) {
+        QString why = QStringLiteral("page %1 (%2) did not move on after it was answered").arg(m_number).arg(m_kind);
+        // A page that refuses its answer says why.
+        if (m_page) {
+            for (const QLabel *label : m_page->findChildren<QLabel *>()) {
+                if (label->isVisible() && label->text().startsWith(u"Please"))
+                    why += QStringLiteral(": \"%1\"").arg(label->text());
+            }
+        }
+        fail(why);
+    } else if (m_number == 0 && m_pageClock.elapsed() > 2 * pagePatienceMs) {
+        fail(QStringLiteral("no survey page appeared"));
+    }
+}
+
+void TovuDemoPagePlayer::begin(QWidget *page)
+{
+    m_page = page;
+    ++m_number;
+    m_kind = kindName(page);
+    m_title.clear();
+    m_answer.clear();
+    m_shot.clear();
+    m_typed = 0;
+    m_lastPage = false;
+    m_steps = script(page);
+    m_step = 0;
+    m_scriptDone = false;
+    m_stepClock.start();
+    m_stepTimer.start(m_pace.thinkMs);
+}
+
+void TovuDemoPagePlayer::runStep()
+{
+    if (!m_running)
+        return;
+    if (!m_page) {
+        fail(QStringLiteral("page %1 (%2) went away before it was answered").arg(m_number).arg(m_kind));
+        return;
+    }
+    if (m_step >= m_steps.size()) {
+        finishPage();
+        return;
+    }
+    // A copy: a step may add steps after itself.
+    const Step step = m_steps[m_step];
+    if (step.run()) {
+        ++m_step;
+        m_stepClock.start();
+        if (m_step >= m_steps.size())
+            finishPage();
+        else if (m_running)
+            m_stepTimer.start(m_pace.stepMs);
+    } else if (m_stepClock.elapsed() > stepPatienceMs) {
+        fail(QStringLiteral("page %1 (%2): %3 never became possible").arg(m_number).arg(m_kind, step.what));
+    } else if (m_running) {
+        m_stepTimer.start(retryMs);
+    }
+}
+
+void TovuDemoPagePlayer::finishPage()
+{
+    if (!m_running)
+        return;
+    m_scriptDone = true;
+    m_pageClock.start();
+    Q_EMIT pageDone(m_number, std::max(m_pages, m_number), m_kind, m_title, m_answer, m_shot);
+    if (m_lastPage) {
+        stop();
+        Q_EMIT finished();
+    }
+}
+
+void TovuDemoPagePlayer::fail(const QString &why)
+{
+    stop();
+    Q_EMIT failed(why);
+}
+
+// -- steps -------------------------------------------------------------------------
+
+void TovuDemoPagePlayer::reveal(QWidget *widget)
+{
+    // A page taller than the sheet scrolls: bring the control into view first, as a finger would.
+    if (TovuToasterView *sheet = m_sheet ? m_sheet() : nullptr; sheet && sheet->isAncestorOf(widget))
+        sheet->contentScrollArea()->ensureWidgetVisible(widget, 8, 16);
+}
+
+TovuDemoPagePlayer::Step TovuDemoPagePlayer::clickStep(std::function<QWidget *()> target, const QString &what)
+{
+    return {[this, target = std::move(target)] {
+                QWidget *widget = target();
+                if (!widget || !widget->isVisible() || !widget->isEnabled())
+                    return false;
+                reveal(widget);
+                TovuDemoInput::click(widget);
+                return true;
+            },
+            QStringLiteral("clicking ") + what};
+}
+
+TovuDemoPagePlayer::Step TovuDemoPagePlayer::typeStep(std::function<QWidget *()> field, const QString &text,
+                                                      const QString &what)
+{
+    return {[this, field = std::move(field), text] {
+                QWidget *widget = field();
+                if (!widget || !widget->isVisible() || !widget->isEnabled())
+                    return false;
+                if (m_typed == 0) {
+                    reveal(widget);
+                    TovuDemoInput::click(widget);
+                    widget->setFocus(Qt::MouseFocusReason);
+                }
+                const qsizetype left = text.size() - m_typed;
+                const qsizetype count
+                    = m_pace.charactersPerStep < 0 ? left : std::min<qsizetype>(m_pace.charactersPerStep, left);
+                TovuDemoInput::type(widget, text.mid(m_typed, count));
+                m_typed += static_cast<int>(count);
+                if (m_typed < text.size())
+                    return false; // more next time, so it reads as typing
+                m_typed = 0;
+                return true;
+            },
+            QStringLiteral("typing into ") + what};
+}
+
+TovuDemoPagePlayer::Step TovuDemoPagePlayer::shootStep()
+{
+    return {[this] {
+                if (m_screenshotsDir.isEmpty() || !m_screen)
+                    return true;
+                const QString path
+                    = QDir(m_screenshotsDir)
+                          .filePath(QStringLiteral("%1-%2.png").arg(m_number, 2, 10, QChar(u'0')).arg(m_kind));
+                if (!TovuDemoPng::save(m_screen->grab().toImage(), path, m_palette)) {
+                    fail(QStringLiteral("cannot write %1").arg(path));
+                    return false;
+                }
+                m_shot = path;
+                m_screenshots << path;
+                return true;
+            },
+            QStringLiteral("saving the screenshot")};
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::unreadable()
+{
+    return {{[] { return false; }, QStringLiteral("reading the page's question")}};
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::script(QWidget *page)
+{
+    if (auto *view = qobject_cast<TovuIntroView *>(page))
+        return introScript(view);
+    if (auto *view = qobject_cast<TovuThankYouView *>(page))
+        return thankYouScript(view);
+    if (auto *view = qobject_cast<TovuSingleChoiceQuestionView *>(page))
+        return singleChoiceScript(view);
+    if (auto *view = qobject_cast<TovuMultipleChoiceQuestionView *>(page))
+        return multipleChoiceScript(view);
+    if (auto *view = qobject_cast<TovuDropdownQuestionView *>(page))
+        return dropdownScript(view);
+    if (auto *view = qobject_cast<TovuTextBoxQuestionView *>(page))
+        return textBoxScript(view);
+    if (auto *view = qobject_cast<TovuNPSQuestionView *>(page))
+        return npsScript(view);
+    if (auto *view = qobject_cast<TovuMultiNPSQuestionView *>(page))
+        return multiNpsScript(view);
+    if (auto *view = qobject_cast<TovuRatingQuestionView *>(page))
+        return ratingScript(view);
+    if (auto *view = qobject_cast<TovuMultiRatingQuestionView *>(page))
+        return multiRatingScript(view);
+    return {{[] { return false; }, QStringLiteral("answering a page of a kind the demo does not know")}};
+}
+
+// -- one script per page type ---------------------------------------------------------
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::introScript(TovuIntroView *page)
+{
+    const QPointer view(page);
+    m_title = shortText(page->page().content.value_or(""));
+    m_answer = QStringLiteral("tapped \"%1\"").arg(page->startButton()->text());
+    return {shootStep(), clickStep([view] { return view ? view->startButton() : nullptr; }, QStringLiteral("start"))};
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::thankYouScript(TovuThankYouView *page)
+{
+    const QPointer view(page);
+    m_lastPage = true;
+    m_title = shortText(page->titleLabel()->text());
+    return {{[view] { return !view || view->entranceProgress() >= 1.0; }, QStringLiteral("the page settling")},
+            shootStep()};
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::singleChoiceScript(TovuSingleChoiceQuestionView *page)
+{
+    const QPointer view(page);
+    if (!page->question())
+        return unreadable();
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    const auto &options = optionsOf(question);
+    const int choice = std::min(2, static_cast<int>(page->optionRows().size()) - 1);
+    if (choice < 0 || static_cast<std::size_t>(choice) >= options.size())
+        return {{[] { return false; }, QStringLiteral("finding an option")}};
+    const TovuChoice option = options[static_cast<std::size_t>(choice)];
+    m_answer = QString::fromStdString(option.text);
+    m_given.push_back({question.id, question.type, {{option.id, std::nullopt, std::nullopt}}, option.text});
+    return {clickStep([view, choice] { return view ? view->optionRows().value(choice) : nullptr; },
+                      QStringLiteral("an option")),
+            shootStep(), clickStep([view] { return view ? view->nextButton() : nullptr; }, QStringLiteral("Next"))};
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multipleChoiceScript(TovuMultipleChoiceQuestionView *page)
+{
+    const QPointer view(page);
+    if (!page->question())
+        return unreadable();
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    const auto &options = optionsOf(question);
+    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
+    std::vector<std::string> texts;
+    std::vector<Step> steps;
+    // The first and the fourth option (or the first alone), in option order as the answer lists them.
+    for (const int index : {0, 3}) {
+        if (index >= page->optionButtons().size() || static_cast<std::size_t>(index) >= options.size())
+            continue;
+        const TovuChoice &option = options[static_cast<std::size_t>(index)];
+        given.values.push_back({option.id, std::nullopt, std::nullopt});
+        texts.push_back(option.text);
+        steps.push_back(clickStep([view, index] { return view ? view->optionButtons().value(index) : nullptr; },
+                                  QStringLiteral("an option")));
+    }
+    given.summary = joined(texts);
+    m_answer = QString::fromStdString(given.summary);
+    m_given.push_back(given);
+    steps.push_back(shootStep());
+    steps.push_back(clickStep([view] { return view ? view->nextButton() : nullptr; }, QStringLiteral("Next")));
+    return steps;
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::dropdownScript(TovuDropdownQuestionView *page)
+{
+    const QPointer view(page);
+    if (!page->question())
+        return unreadable();
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    const auto &options = optionsOf(question);
+    const int choice = std::min(2, static_cast<int>(page->optionButtons().size()) - 1);
+    if (choice < 0 || static_cast<std::size_t>(choice) >= options.size())
+        return {{[] { return false; }, QStringLiteral("finding an option")}};
+    const TovuChoice option = options[static_cast<std::size_t>(choice)];
+    m_answer = QString::fromStdString(option.text);
+    m_given.push_back({question.id, question.type, {{option.id, std::nullopt, std::nullopt}}, option.text});
+    // The picture shows the list open, the option about to be chosen.
+    return {clickStep([view] { return view ? view->dropdownButton() : nullptr; }, QStringLiteral("the dropdown")),
+            {[view, choice] {
+                 TovuButton *listed = view ? view->optionButtons().value(choice) : nullptr;
+                 return listed && listed->isVisible() && view->isExpanded();
+             },
+             QStringLiteral("the list opening")},
+            shootStep(),
+            clickStep([view, choice] { return view ? view->optionButtons().value(choice) : nullptr; },
+                      QStringLiteral("an option of the open list")),
+            clickStep([view] { return view ? view->nextButton() : nullptr; }, QStringLiteral("Next"))};
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::textBoxScript(TovuTextBoxQuestionView *page)
+{
+    const QPointer view(page);
+    if (!page->question())
+        return unreadable();
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    const auto &options = optionsOf(question);
+    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
+    std::vector<std::string> texts;
+    std::vector<Step> steps;
+    for (int index = 0; index < page->textFields().size(); ++index) {
+        const QString label = index < page->fieldLabels().size() ? page->fieldLabels()[index]->text() : QString();
+        const QString text = plausibleText(label, question.placeholder, question.title);
+        const auto position = static_cast<std::size_t>(index);
+        given.values.push_back(
+            {position < options.size() ? options[position].id : std::string(), std::nullopt, text.toStdString()});
+        texts.push_back(text.toStdString());
+        steps.push_back(typeStep([view, index] { return view ? view->textFields().value(index) : nullptr; }, text,
+                                 label.isEmpty() ? QStringLiteral("the field") : label));
+    }
+    given.summary = joined(texts, " / ");
+    m_answer = QString::fromStdString(given.summary);
+    m_given.push_back(given);
+    steps.push_back(shootStep());
+    steps.push_back(clickStep([view] { return view ? view->submitButton() : nullptr; }, QStringLiteral("Submit")));
+    return steps;
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::npsScript(TovuNPSQuestionView *page)
+{
+    const QPointer view(page);
+    if (!page->question())
+        return unreadable();
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    constexpr int score = 9;
+    m_answer = QString::number(score);
+    m_given.push_back({question.id,
+                       question.type,
+                       {{scaleRowId(question), columnId(question, score, score), std::nullopt}},
+                       std::to_string(score)});
+
+    // The score opens the follow-up it asks for: choose an option of a choice
+    // follow-up, or type into a text one. Its answer goes under the follow-up's id.
+    const Step followUp{
+        [this, view, question] {
+            if (!view)
+                return false;
+            const auto kind = view->viewModel()->followUpKind();
+            if (kind == TovuNPSQuestionViewModel::FollowUpKind::none) {
+                m_steps.push_back(shootStep());
+                m_steps.push_back(clickStep([view] { return view ? view->actionButton() : nullptr; },
+                                            QStringLiteral("the action button")));
+                return true;
+            }
+            std::optional<std::string> conditionalId;
+            if (question.conditionalFollowUps) {
+                for (const TovuConditionalFollowUp &range : *question.conditionalFollowUps) {
+                    if (range.minRating <= score && score <= range.maxRating && range.questionId) {
+                        conditionalId = range.questionId;
+                        break;
+                    }
+                }
+            }
+            const std::string followUpId = conditionalId.value_or(question.id + "_followup");
+            if (kind == TovuNPSQuestionViewModel::FollowUpKind::singleChoice) {
+                const QStringList ids = view->viewModel()->followUpOptionIds();
+                const QStringList texts = view->viewModel()->followUpOptionTexts();
+                const int choice = std::min(1, static_cast<int>(ids.size()) - 1);
+                if (choice < 0)
+                    return false;
+                m_given.push_back({followUpId,
+                                   std::nullopt,
+                                   {{ids[choice].toStdString(), std::nullopt, std::nullopt}},
+                                   texts.value(choice).toStdString()});
+                m_answer += QStringLiteral(", then \"%1\"").arg(texts.value(choice));
+                m_steps.push_back(clickStep(
+                    [view, id = ids[choice]]() -> QWidget * {
+                        if (!view)
+                            return nullptr;
+                        for (TovuButton *button : view->followUpOptionButtons()) {
+                            if (button->objectName() == id)
+                                return button;
+                        }
+                        return nullptr;
+                    },
+                    QStringLiteral("a follow-up option")));
+            } else {
+                const QString text = QStringLiteral("The courier was quick and friendly.");
+                const std::string row = conditionalId ? followUpId : question.id;
+                m_given.push_back(
+                    {followUpId, std::nullopt, {{row, std::nullopt, text.toStdString()}}, text.toStdString()});
+                m_answer += QStringLiteral(", then \"%1\"").arg(text);
+                m_steps.push_back(typeStep([view] { return view ? view->followUpText() : nullptr; }, text,
+                                           QStringLiteral("the follow-up")));
+            }
+            m_steps.push_back(shootStep());
+            m_steps.push_back(clickStep([view] { return view ? view->actionButton() : nullptr; },
+                                        QStringLiteral("the action button")));
+            return true;
+        },
+        QStringLiteral("the follow-up")};
+    return {clickStep([view] { return view ? view->npsButtons().value(score) : nullptr; }, QStringLiteral("score 9")),
+            followUp};
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multiNpsScript(TovuMultiNPSQuestionView *page)
+{
+    const QPointer view(page);
+    if (!page->question())
+        return unreadable();
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    const auto &rows = optionsOf(question);
+    constexpr std::array scores{8, 9, 7, 10};
+    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
+    std::vector<std::string> parts;
+    std::vector<Step> steps;
+    for (int row = 0; row < page->scoreButtons().size() && static_cast<std::size_t>(row) < rows.size(); ++row) {
+        const int score = scores[static_cast<std::size_t>(row) % scores.size()];
+        given.values.push_back({rows[static_cast<std::size_t>(row)].id,
+                                columnId(question, static_cast<std::size_t>(score), score), std::nullopt});
+        parts.push_back(std::to_string(score));
+        steps.push_back(
+            clickStep([view, row, score] { return view ? view->scoreButtons().value(row).value(score) : nullptr; },
+                      QStringLiteral("a score")));
+    }
+    given.summary = joined(parts);
+    m_answer = QString::fromStdString(given.summary);
+    m_given.push_back(given);
+    steps.push_back(shootStep());
+    steps.push_back(clickStep([view] { return view ? view->actionButton() : nullptr; }, QStringLiteral("Next")));
+    return steps;
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::ratingScript(TovuRatingQuestionView *page)
+{
+    const QPointer view(page);
+    if (!page->question())
+        return unreadable();
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    const int count = static_cast<int>(page->ratingButtons().size());
+    const int rating = std::min(4, count);
+    if (rating < 1)
+        return {{[] { return false; }, QStringLiteral("finding a rating button")}};
+    const auto index = static_cast<std::size_t>(rating - 1);
+    std::string summary = std::to_string(rating) + " of " + std::to_string(count);
+    if (const std::string text = columnText(question, index); !text.empty())
+        summary += " (" + text + ")";
+    m_answer = QString::fromStdString(summary);
+    m_given.push_back({question.id,
+                       question.type,
+                       {{scaleRowId(question), columnId(question, index, rating), std::nullopt}},
+                       summary});
+    return {clickStep([view, rating] { return view ? view->ratingButtons().value(rating - 1) : nullptr; },
+                      QStringLiteral("a rating")),
+            shootStep(),
+            clickStep([view] { return view ? view->actionButton() : nullptr; }, QStringLiteral("the action button"))};
+}
+
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multiRatingScript(TovuMultiRatingQuestionView *page)
+{
+    const QPointer view(page);
+    if (!page->question())
+        return unreadable();
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    constexpr std::array positions{4, 5, 3, 4};
+    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
+    std::vector<std::string> parts;
+    std::vector<Step> steps;
+    std::size_t row = 0;
+    for (const TovuChoice &item : optionsOf(question)) {
+        const auto buttons = page->rowButtons().find(item.id);
+        if (buttons == page->rowButtons().end() || buttons->second.isEmpty())
+            continue;
+        const int position = std::min(positions[row++ % positions.size()], static_cast<int>(buttons->second.size()));
+        const auto index = static_cast<std::size_t>(position - 1);
+        // Without columns the button's name ("rowId::columnId") says which column it stands for.
+        std::string column = columnId(question, index, position);
+        if (!question.columns)
+            column = buttons->second[position - 1]->objectName().section(QStringLiteral("::"), 1).toStdString();
+        given.values.push_back({item.id, column, std::nullopt});
+        const std::string text = columnText(question, index);
+        parts.push_back(text.empty() ? std::to_string(position) : text);
+        steps.push_back(clickStep(
+            [view, id = item.id, position]() -> QWidget * {
+                if (!view)
+                    return nullptr;
+                const auto found = view->rowButtons().find(id);
+                return found == view->rowButtons().end() ? nullptr : found->second.value(position - 1);
+            },
+            QStringLiteral("a rating")));
+    }
+    given.summary = joined(parts);
+    m_answer = QString::fromStdString(given.summary);
+    m_given.push_back(given);
+    steps.push_back(shootStep());
+    steps.push_back(clickStep([view] { return view ? view->actionButton() : nullptr; }, QStringLiteral("Next")));
+    return steps;
+}

@@ -1,0 +1,172 @@
+// The tovu-demo program: without a display it plays the survey by itself,
+// prints one line per page and the stored response, saves its screenshots and
+// exits 0; a bad option, an unknown survey or a port in use is one line on
+// standard error and a non-zero exit, never a crash.
+
+#include "TovuDemoOptions.h"
+#include "TovuDevServer.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+struct DemoRun {
+    int exitCode = -1;
+    QProcess::ExitStatus exitStatus = QProcess::CrashExit;
+    QString out;
+    QString err;
+};
+
+// Runs tovu-demo as `make demo` does on a machine without a display: no
+// DISPLAY, no WAYLAND_DISPLAY, no Qt platform chosen.
+DemoRun runDemo(const QStringList &arguments, const QString &workingDir = {})
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QString::fromLatin1(name));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    if (!workingDir.isEmpty())
+        process.setWorkingDirectory(workingDir);
+    process.start(QStringLiteral(TOVU_DEMO_EXECUTABLE), arguments);
+    DemoRun run;
+    if (!process.waitForFinished(30000)) {
+        process.kill();
+        process.waitForFinished();
+        ADD_FAILURE() << "tovu-demo did not finish";
+    }
+    run.exitCode = process.exitCode();
+    run.exitStatus = process.exitStatus();
+    run.out = QString::fromUtf8(process.readAllStandardOutput());
+    run.err = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+
+QStringList lines(const QString &text)
+{
+    return text.split(u'\n', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+TEST(DemoProgram, WithoutADisplayPlaysTheEveryTypeSurveyAndPrintsWhatWasStored)
+{
+    QTemporaryDir folder;
+    ASSERT_TRUE(folder.isValid());
+    const DemoRun run = runDemo({}, folder.path());
+    ASSERT_EQ(run.exitStatus, QProcess::NormalExit) << run.err.toStdString();
+    ASSERT_EQ(run.exitCode, 0) << run.out.toStdString() << run.err.toStdString();
+    EXPECT_TRUE(run.out.startsWith(QStringLiteral("tovu-demo: no display here"))) << run.out.toStdString();
+    EXPECT_TRUE(run.out.contains(QStringLiteral("\"Fresh Basket delivery feedback\" (every-question-type)")));
+
+    // One line per page, in order.
+    const QStringList out = lines(run.out);
+    QStringList kinds;
+    for (const QString &line : out) {
+        if (line.startsWith(u' ') && line.contains(QStringLiteral("/11  ")))
+            kinds << line.simplified().section(u' ', 1, 1);
+    }
+    EXPECT_EQ(kinds.join(u' ').toStdString(),
+              "intro single-choice multiple-choice dropdown rating multi-rating nps "
+              "multi-nps single-text-box multiple-text-box thank-you");
+
+    // The stored response, printed as JSON between its heading and the next line of the demo.
+    const qsizetype heading
+        = out.indexOf(QStringLiteral("tovu-demo: the backend stored this response (GET /dev/responses):"));
+    ASSERT_GE(heading, 0) << run.out.toStdString();
+    QStringList json;
+    for (qsizetype i = heading + 1; i < out.size() && !out[i].startsWith(QStringLiteral("tovu-demo:")); ++i)
+        json << out[i];
+    const auto stored = nlohmann::ordered_json::parse(json.join(u'\n').toStdString(), nullptr, false);
+    ASSERT_TRUE(stored.is_object()) << json.join(u'\n').toStdString();
+    EXPECT_EQ(stored["payload"]["collector_id"], "collector-every-question-type");
+    // Nine pages and the NPS page's follow-up.
+    EXPECT_EQ(stored["payload"]["responses"][0]["questions"].size(), 10u);
+
+    // The screenshots, in the default folder of the working directory.
+    const QDir shots(QDir(folder.path()).filePath(QStringLiteral("demo-screenshots")));
+    EXPECT_EQ(shots.entryList({QStringLiteral("*.png")}, QDir::Files).size(), 12);
+    // Nothing but the demo's own lines on standard error: it has none.
+    EXPECT_TRUE(run.err.isEmpty()) << run.err.toStdString();
+}
+
+TEST(DemoProgram, RefusalsAreOneLineAndANonZeroExit)
+{
+    TovuDevServer occupant;
+    ASSERT_FALSE(occupant.start().empty()) << occupant.errorString();
+    const QString busyPort = QString::number(occupant.port());
+
+    const struct {
+        QStringList arguments;
+        int exitCode;
+        QString line;
+    } cases[] = {
+        {{QStringLiteral("--bogus")}, 2, QStringLiteral("tovu-demo: unknown option --bogus (see --help)")},
+        {{QStringLiteral("--survey")}, 2, QStringLiteral("tovu-demo: --survey needs a value")},
+        {{QStringLiteral("--autoplay=yes")}, 2, QStringLiteral("tovu-demo: --autoplay takes no value")},
+        {{QStringLiteral("stray")}, 2, QStringLiteral("tovu-demo: unexpected argument \"stray\" (see --help)")},
+        {{QStringLiteral("--port"), QStringLiteral("http")},
+         2,
+         QStringLiteral("tovu-demo: --port: \"http\" is not a port number (0 to 65535)")},
+        {{QStringLiteral("--theme"), QStringLiteral("purple")},
+         2,
+         QStringLiteral("tovu-demo: --theme: \"purple\" is not host, survey or a colour such as #7C3AED")},
+        {{QStringLiteral("--survey"), QStringLiteral("nope")},
+         2,
+         QStringLiteral("tovu-demo: no sample survey \"nope\"; the samples are customer-satisfaction, "
+                        "every-question-type, onboarding, product-feedback (a file name, survey id or collector id)")},
+        {{QStringLiteral("--port"), busyPort},
+         1,
+         QStringLiteral("tovu-demo: cannot listen on 127.0.0.1:%1 (is another program using it? --port 0 picks a "
+                        "free port)")
+             .arg(busyPort)},
+        {{QStringLiteral("-notanoption")}, 2, QStringLiteral("tovu-demo: unknown option -notanoption (see --help)")},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.arguments.join(u' ').toStdString());
+        const DemoRun run = runDemo(c.arguments);
+        EXPECT_EQ(run.exitStatus, QProcess::NormalExit);
+        EXPECT_EQ(run.exitCode, c.exitCode);
+        EXPECT_EQ(lines(run.err), QStringList{c.line});
+        EXPECT_TRUE(run.out.isEmpty()) << run.out.toStdString();
+    }
+
+    const DemoRun help = runDemo({QStringLiteral("--help")});
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_TRUE(help.out.startsWith(QStringLiteral("usage: tovu-demo"))) << help.out.toStdString();
+}
+
+TEST(DemoOptions, ReadsEveryOption)
+{
+    const auto options = TovuDemoOptions::parse(
+        {QStringLiteral("--autoplay"), QStringLiteral("--survey=onboarding"), QStringLiteral("--screenshots"),
+         QStringLiteral("out"), QStringLiteral("--offline-first"), QStringLiteral("--dark"), QStringLiteral("--theme"),
+         QStringLiteral("#7c3aed"), QStringLiteral("--port"), QStringLiteral("8787"), QStringLiteral("--verbose"),
+         QStringLiteral("-platform"), QStringLiteral("xcb")});
+    ASSERT_TRUE(options) << options.error().toStdString();
+    EXPECT_TRUE(options->autoplay);
+    EXPECT_TRUE(options->offlineFirst);
+    EXPECT_TRUE(options->dark);
+    EXPECT_TRUE(options->verbose);
+    EXPECT_EQ(options->survey, QStringLiteral("onboarding"));
+    EXPECT_EQ(options->screenshotsDir, QStringLiteral("out"));
+    EXPECT_EQ(options->theme, TovuDemoOptions::Theme::primaryColor);
+    EXPECT_EQ(options->primaryColor, QColor(0x7C, 0x3A, 0xED));
+    EXPECT_EQ(options->port, 8787);
+    EXPECT_EQ(options->qtArguments,
+              (QStringList{QStringLiteral("tovu-demo"), QStringLiteral("-platform"), QStringLiteral("xcb")}));
+
+    const auto defaults = TovuDemoOptions::parse({});
+    ASSERT_TRUE(defaults);
+    EXPECT_FALSE(defaults->autoplay);
+    EXPECT_EQ(defaults->theme, TovuDemoOptions::Theme::survey);
+    EXPECT_EQ(defaults->screenshotsDir, QStringLiteral("demo-screenshots"));
+    EXPECT_EQ(defaults->port, 0);
+    EXPECT_EQ(TovuDemoOptions::parse({QStringLiteral("--theme"), QStringLiteral("host")})->theme,
+              TovuDemoOptions::Theme::host);
+}
