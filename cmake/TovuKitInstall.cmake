@@ -15,6 +15,18 @@ install(FILES ${umbrella} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tovukit_io)
 
 set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tovukit_io)
 install(EXPORT tovukit_ioTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
+
+# The web path has an export set of its own, loaded by the package config only
+# where QtWebEngine is found: find_package(tovukit_io COMPONENTS web).
+get_property(web_layers GLOBAL PROPERTY TOVUKIT_WEB_LAYERS)
+if(web_layers)
+  install(TARGETS ${web_layers}
+    EXPORT tovukit_ioWebTargets
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(EXPORT tovukit_ioWebTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
+endif()
 configure_package_config_file(
   ${PROJECT_SOURCE_DIR}/cmake/tovukit_ioConfig.cmake.in
   ${PROJECT_BINARY_DIR}/tovukit_ioConfig.cmake

@@ -31,8 +31,13 @@ endfunction()
 
 # One layer of the library: a static target named tovukit_<layer> whose public
 # headers live beside its sources and are included as <tovukit_io/<layer>/X.h>.
+# GROUP names the global list the layer joins (default TOVUKIT_LAYERS, which the
+# product links and installs); the web path keeps to a list of its own.
 function(tovukit_add_layer layer)
-  cmake_parse_arguments(ARG "" "" "SOURCES;HEADERS;PUBLIC_LINK;PRIVATE_LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "GROUP" "SOURCES;HEADERS;PUBLIC_LINK;PRIVATE_LINK" ${ARGN})
+  if(NOT ARG_GROUP)
+    set(ARG_GROUP TOVUKIT_LAYERS)
+  endif()
   set(target tovukit_${layer})
   # Headers keep their folder below the layer (kit/TovuBox.h) when installed.
   if(TOVUKIT_INSTALL)
@@ -51,5 +56,5 @@ function(tovukit_add_layer layer)
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
   target_link_libraries(${target} PUBLIC ${ARG_PUBLIC_LINK} PRIVATE ${ARG_PRIVATE_LINK})
   tovukit_apply_settings(${target})
-  set_property(GLOBAL APPEND PROPERTY TOVUKIT_LAYERS ${target})
+  set_property(GLOBAL APPEND PROPERTY ${ARG_GROUP} ${target})
 endfunction()

@@ -181,6 +181,8 @@ std::string TovuWebPage::render(const TovuSurvey &survey)
     if (closing && closing->redirectURL && isWebAddress(*closing->redirectURL))
         body += "<p><a href=\"" + escape(*closing->redirectURL) + "\">Continue</a></p>\n";
     body += "</section>\n";
+    // A link out of the survey, as hosted pages have: embedding views open it elsewhere.
+    body += "<footer class=\"hint\"><a id=\"powered-by\" href=\"https://tovu.example/\">Powered by Tovu</a></footer>\n";
     return page(survey.name, body);
 }
 

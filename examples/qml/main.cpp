@@ -1,0 +1,39 @@
+// A Qt Quick host of the web survey: Main.qml embeds TovuSwiftUIWrapper and
+// offers the full-screen and lowest-response presentations.
+//
+//   tovu-devserver --port 8787 &
+//   tovu-qml-example http://127.0.0.1:8787 [survey-id ...]
+
+#include <tovukit_io/network/TovuNetworkService.h>
+#include <tovukit_io/web/TovuSwiftUIWrapper.h>
+
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QStringList>
+#include <QUrl>
+#include <QtWebEngineQuick/qtwebenginequickglobal.h>
+
+int main(int argc, char **argv)
+{
+    // QtWebEngine must be set up before the application object.
+    QtWebEngineQuick::initialize();
+    QGuiApplication application(argc, argv);
+    application.setApplicationName(QStringLiteral("tovu-qml-example"));
+
+    QStringList arguments = application.arguments().mid(1);
+    const QString backend = arguments.isEmpty() ? QStringLiteral("http://127.0.0.1:8787") : arguments.takeFirst();
+    if (arguments.isEmpty())
+        arguments = {QStringLiteral("03ce355f-163d-420a-9980-f630e7af337c")};
+    // The response-count call goes to the local backend too.
+    TovuNetworkService::shared().setBaseURLOverride(backend.toStdString());
+
+    TovuSwiftUIWrapper::registerQmlTypes();
+    QQmlApplicationEngine engine;
+    engine.rootContext()->setContextProperty(QStringLiteral("backend"), backend);
+    engine.rootContext()->setContextProperty(QStringLiteral("surveyIds"), arguments);
+    engine.load(QUrl::fromLocalFile(QStringLiteral(TOVU_QML_EXAMPLE_DIR "/Main.qml")));
+    if (engine.rootObjects().isEmpty())
+        return 1;
+    return application.exec();
+}
