@@ -351,9 +351,70 @@ TovuDemoPagePlayer::Step TovuDemoPagePlayer::shootStep()
             QStringLiteral("saving the screenshot")};
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::unreadable()
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::stuck(const QString &what)
 {
-    return {{[] { return false; }, QStringLiteral("reading the page's question")}};
+    return {{[] { return false; }, what}};
+}
+
+// -- what the scripts share -----------------------------------------------------------
+
+template<typename View>
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::questionScript(View *page, QuestionScript<View> answer)
+{
+    if (!page->question())
+        return stuck(QStringLiteral("reading the page's question"));
+    const TovuQuestion question = *page->question();
+    m_title = shortText(question.title);
+    return (this->*answer)(page, question);
+}
+
+// Notes `given` as the page's answer, shown as its summary.
+void TovuDemoPagePlayer::remember(TovuDemoGivenAnswer given)
+{
+    m_answer = QString::fromStdString(given.summary);
+    m_given.push_back(std::move(given));
+}
+
+// Answers with the third option, or the last of `shown` when fewer: its index,
+// or -1 when there is none to choose.
+int TovuDemoPagePlayer::rememberOption(const TovuQuestion &question, qsizetype shown)
+{
+    const auto &options = optionsOf(question);
+    const int choice = std::min(2, static_cast<int>(shown) - 1);
+    if (choice < 0 || static_cast<std::size_t>(choice) >= options.size())
+        return -1;
+    const TovuChoice &option = options[static_cast<std::size_t>(choice)];
+    remember({question.id, question.type, {{option.id, std::nullopt, std::nullopt}}, option.text});
+    return choice;
+}
+
+// The page is answered: save it, then leave it with `button`.
+void TovuDemoPagePlayer::shootThenClick(std::vector<Step> &steps, std::function<QWidget *()> button,
+                                        const QString &what)
+{
+    steps.push_back(shootStep());
+    steps.push_back(clickStep(std::move(button), what));
+}
+
+// Gives every pick, in order, as one answer whose summary joins their texts,
+// then saves the page and leaves it with `button`.
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::answerWith(const TovuQuestion &question,
+                                                                     std::vector<Pick> picks,
+                                                                     std::function<QWidget *()> button,
+                                                                     const QString &what, std::string_view separator)
+{
+    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
+    std::vector<std::string> texts;
+    std::vector<Step> steps;
+    for (Pick &pick : picks) {
+        given.values.push_back(std::move(pick.value));
+        texts.push_back(std::move(pick.text));
+        steps.push_back(std::move(pick.step));
+    }
+    given.summary = joined(texts, separator);
+    remember(std::move(given));
+    shootThenClick(steps, std::move(button), what);
+    return steps;
 }
 
 std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::script(QWidget *page)
@@ -363,22 +424,22 @@ std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::script(QWidget *page)
     if (auto *view = qobject_cast<TovuThankYouView *>(page))
         return thankYouScript(view);
     if (auto *view = qobject_cast<TovuSingleChoiceQuestionView *>(page))
-        return singleChoiceScript(view);
+        return questionScript(view, &TovuDemoPagePlayer::singleChoiceScript);
     if (auto *view = qobject_cast<TovuMultipleChoiceQuestionView *>(page))
-        return multipleChoiceScript(view);
+        return questionScript(view, &TovuDemoPagePlayer::multipleChoiceScript);
     if (auto *view = qobject_cast<TovuDropdownQuestionView *>(page))
-        return dropdownScript(view);
+        return questionScript(view, &TovuDemoPagePlayer::dropdownScript);
     if (auto *view = qobject_cast<TovuTextBoxQuestionView *>(page))
-        return textBoxScript(view);
+        return questionScript(view, &TovuDemoPagePlayer::textBoxScript);
     if (auto *view = qobject_cast<TovuNPSQuestionView *>(page))
-        return npsScript(view);
+        return questionScript(view, &TovuDemoPagePlayer::npsScript);
     if (auto *view = qobject_cast<TovuMultiNPSQuestionView *>(page))
-        return multiNpsScript(view);
+        return questionScript(view, &TovuDemoPagePlayer::multiNpsScript);
     if (auto *view = qobject_cast<TovuRatingQuestionView *>(page))
-        return ratingScript(view);
+        return questionScript(view, &TovuDemoPagePlayer::ratingScript);
     if (auto *view = qobject_cast<TovuMultiRatingQuestionView *>(page))
-        return multiRatingScript(view);
-    return {{[] { return false; }, QStringLiteral("answering a page of a kind the demo does not know")}};
+        return questionScript(view, &TovuDemoPagePlayer::multiRatingScript);
+    return stuck(QStringLiteral("answering a page of a kind the demo does not know"));
 }
 
 // -- one script per page type ---------------------------------------------------------
@@ -400,68 +461,45 @@ std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::thankYouScript(TovuTha
             shootStep()};
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::singleChoiceScript(TovuSingleChoiceQuestionView *page)
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::singleChoiceScript(TovuSingleChoiceQuestionView *page,
+                                                                             const TovuQuestion &question)
 {
     const QPointer view(page);
-    if (!page->question())
-        return unreadable();
-    const TovuQuestion question = *page->question();
-    m_title = shortText(question.title);
-    const auto &options = optionsOf(question);
-    const int choice = std::min(2, static_cast<int>(page->optionRows().size()) - 1);
-    if (choice < 0 || static_cast<std::size_t>(choice) >= options.size())
-        return {{[] { return false; }, QStringLiteral("finding an option")}};
-    const TovuChoice option = options[static_cast<std::size_t>(choice)];
-    m_answer = QString::fromStdString(option.text);
-    m_given.push_back({question.id, question.type, {{option.id, std::nullopt, std::nullopt}}, option.text});
+    const int choice = rememberOption(question, page->optionRows().size());
+    if (choice < 0)
+        return stuck(QStringLiteral("finding an option"));
     return {clickStep([view, choice] { return view ? view->optionRows().value(choice) : nullptr; },
                       QStringLiteral("an option")),
             shootStep(), clickStep([view] { return view ? view->nextButton() : nullptr; }, QStringLiteral("Next"))};
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multipleChoiceScript(TovuMultipleChoiceQuestionView *page)
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multipleChoiceScript(TovuMultipleChoiceQuestionView *page,
+                                                                               const TovuQuestion &question)
 {
     const QPointer view(page);
-    if (!page->question())
-        return unreadable();
-    const TovuQuestion question = *page->question();
-    m_title = shortText(question.title);
     const auto &options = optionsOf(question);
-    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
-    std::vector<std::string> texts;
-    std::vector<Step> steps;
+    std::vector<Pick> picks;
     // The first and the fourth option (or the first alone), in option order as the answer lists them.
     for (const int index : {0, 3}) {
         if (index >= page->optionButtons().size() || static_cast<std::size_t>(index) >= options.size())
             continue;
         const TovuChoice &option = options[static_cast<std::size_t>(index)];
-        given.values.push_back({option.id, std::nullopt, std::nullopt});
-        texts.push_back(option.text);
-        steps.push_back(clickStep([view, index] { return view ? view->optionButtons().value(index) : nullptr; },
-                                  QStringLiteral("an option")));
+        picks.push_back({{option.id, std::nullopt, std::nullopt},
+                         option.text,
+                         clickStep([view, index] { return view ? view->optionButtons().value(index) : nullptr; },
+                                   QStringLiteral("an option"))});
     }
-    given.summary = joined(texts);
-    m_answer = QString::fromStdString(given.summary);
-    m_given.push_back(given);
-    steps.push_back(shootStep());
-    steps.push_back(clickStep([view] { return view ? view->nextButton() : nullptr; }, QStringLiteral("Next")));
-    return steps;
+    return answerWith(
+        question, std::move(picks), [view] { return view ? view->nextButton() : nullptr; }, QStringLiteral("Next"));
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::dropdownScript(TovuDropdownQuestionView *page)
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::dropdownScript(TovuDropdownQuestionView *page,
+                                                                         const TovuQuestion &question)
 {
     const QPointer view(page);
-    if (!page->question())
-        return unreadable();
-    const TovuQuestion question = *page->question();
-    m_title = shortText(question.title);
-    const auto &options = optionsOf(question);
-    const int choice = std::min(2, static_cast<int>(page->optionButtons().size()) - 1);
-    if (choice < 0 || static_cast<std::size_t>(choice) >= options.size())
-        return {{[] { return false; }, QStringLiteral("finding an option")}};
-    const TovuChoice option = options[static_cast<std::size_t>(choice)];
-    m_answer = QString::fromStdString(option.text);
-    m_given.push_back({question.id, question.type, {{option.id, std::nullopt, std::nullopt}}, option.text});
+    const int choice = rememberOption(question, page->optionButtons().size());
+    if (choice < 0)
+        return stuck(QStringLiteral("finding an option"));
     // The picture shows the list open, the option about to be chosen.
     return {clickStep([view] { return view ? view->dropdownButton() : nullptr; }, QStringLiteral("the dropdown")),
             {[view, choice] {
@@ -475,60 +513,49 @@ std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::dropdownScript(TovuDro
             clickStep([view] { return view ? view->nextButton() : nullptr; }, QStringLiteral("Next"))};
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::textBoxScript(TovuTextBoxQuestionView *page)
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::textBoxScript(TovuTextBoxQuestionView *page,
+                                                                        const TovuQuestion &question)
 {
     const QPointer view(page);
-    if (!page->question())
-        return unreadable();
-    const TovuQuestion question = *page->question();
-    m_title = shortText(question.title);
     const auto &options = optionsOf(question);
-    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
-    std::vector<std::string> texts;
-    std::vector<Step> steps;
+    std::vector<Pick> picks;
     for (int index = 0; index < page->textFields().size(); ++index) {
         const QString label = index < page->fieldLabels().size() ? page->fieldLabels()[index]->text() : QString();
         const QString text = plausibleText(label, question.placeholder, question.title);
         const auto position = static_cast<std::size_t>(index);
-        given.values.push_back(
-            {position < options.size() ? options[position].id : std::string(), std::nullopt, text.toStdString()});
-        texts.push_back(text.toStdString());
-        steps.push_back(typeStep([view, index] { return view ? view->textFields().value(index) : nullptr; }, text,
-                                 label.isEmpty() ? QStringLiteral("the field") : label));
+        picks.push_back(
+            {{position < options.size() ? options[position].id : std::string(), std::nullopt, text.toStdString()},
+             text.toStdString(),
+             typeStep([view, index] { return view ? view->textFields().value(index) : nullptr; }, text,
+                      label.isEmpty() ? QStringLiteral("the field") : label)});
     }
-    given.summary = joined(texts, " / ");
-    m_answer = QString::fromStdString(given.summary);
-    m_given.push_back(given);
-    steps.push_back(shootStep());
-    steps.push_back(clickStep([view] { return view ? view->submitButton() : nullptr; }, QStringLiteral("Submit")));
-    return steps;
+    return answerWith(
+        question, std::move(picks), [view] { return view ? view->submitButton() : nullptr; }, QStringLiteral("Submit"),
+        " / ");
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::npsScript(TovuNPSQuestionView *page)
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::npsScript(TovuNPSQuestionView *page,
+                                                                    const TovuQuestion &question)
 {
     const QPointer view(page);
-    if (!page->question())
-        return unreadable();
-    const TovuQuestion question = *page->question();
-    m_title = shortText(question.title);
     constexpr int score = 9;
-    m_answer = QString::number(score);
-    m_given.push_back({question.id,
-                       question.type,
-                       {{scaleRowId(question), columnId(question, score, score), std::nullopt}},
-                       std::to_string(score)});
+    remember({question.id,
+              question.type,
+              {{scaleRowId(question), columnId(question, score, score), std::nullopt}},
+              std::to_string(score)});
 
     // The score opens the follow-up it asks for: choose an option of a choice
     // follow-up, or type into a text one. Its answer goes under the follow-up's id.
+    const auto action = [view] {
+        return view ? view->actionButton() : nullptr;
+    };
     const Step followUp{
-        [this, view, question] {
+        [this, view, question, action] {
             if (!view)
                 return false;
             const auto kind = view->viewModel()->followUpKind();
             if (kind == TovuNPSQuestionViewModel::FollowUpKind::none) {
-                m_steps.push_back(shootStep());
-                m_steps.push_back(clickStep([view] { return view ? view->actionButton() : nullptr; },
-                                            QStringLiteral("the action button")));
+                shootThenClick(m_steps, action, QStringLiteral("the action button"));
                 return true;
             }
             std::optional<std::string> conditionalId;
@@ -572,9 +599,7 @@ std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::npsScript(TovuNPSQuest
                 m_steps.push_back(typeStep([view] { return view ? view->followUpText() : nullptr; }, text,
                                            QStringLiteral("the follow-up")));
             }
-            m_steps.push_back(shootStep());
-            m_steps.push_back(clickStep([view] { return view ? view->actionButton() : nullptr; },
-                                        QStringLiteral("the action button")));
+            shootThenClick(m_steps, action, QStringLiteral("the action button"));
             return true;
         },
         QStringLiteral("the follow-up")};
@@ -582,72 +607,54 @@ std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::npsScript(TovuNPSQuest
             followUp};
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multiNpsScript(TovuMultiNPSQuestionView *page)
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multiNpsScript(TovuMultiNPSQuestionView *page,
+                                                                         const TovuQuestion &question)
 {
     const QPointer view(page);
-    if (!page->question())
-        return unreadable();
-    const TovuQuestion question = *page->question();
-    m_title = shortText(question.title);
     const auto &rows = optionsOf(question);
     constexpr std::array scores{8, 9, 7, 10};
-    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
-    std::vector<std::string> parts;
-    std::vector<Step> steps;
+    std::vector<Pick> picks;
     for (int row = 0; row < page->scoreButtons().size() && static_cast<std::size_t>(row) < rows.size(); ++row) {
         const int score = scores[static_cast<std::size_t>(row) % scores.size()];
-        given.values.push_back({rows[static_cast<std::size_t>(row)].id,
-                                columnId(question, static_cast<std::size_t>(score), score), std::nullopt});
-        parts.push_back(std::to_string(score));
-        steps.push_back(
-            clickStep([view, row, score] { return view ? view->scoreButtons().value(row).value(score) : nullptr; },
-                      QStringLiteral("a score")));
+        picks.push_back(
+            {{rows[static_cast<std::size_t>(row)].id, columnId(question, static_cast<std::size_t>(score), score),
+              std::nullopt},
+             std::to_string(score),
+             clickStep([view, row, score] { return view ? view->scoreButtons().value(row).value(score) : nullptr; },
+                       QStringLiteral("a score"))});
     }
-    given.summary = joined(parts);
-    m_answer = QString::fromStdString(given.summary);
-    m_given.push_back(given);
-    steps.push_back(shootStep());
-    steps.push_back(clickStep([view] { return view ? view->actionButton() : nullptr; }, QStringLiteral("Next")));
-    return steps;
+    return answerWith(
+        question, std::move(picks), [view] { return view ? view->actionButton() : nullptr; }, QStringLiteral("Next"));
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::ratingScript(TovuRatingQuestionView *page)
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::ratingScript(TovuRatingQuestionView *page,
+                                                                       const TovuQuestion &question)
 {
     const QPointer view(page);
-    if (!page->question())
-        return unreadable();
-    const TovuQuestion question = *page->question();
-    m_title = shortText(question.title);
     const int count = static_cast<int>(page->ratingButtons().size());
     const int rating = std::min(4, count);
     if (rating < 1)
-        return {{[] { return false; }, QStringLiteral("finding a rating button")}};
+        return stuck(QStringLiteral("finding a rating button"));
     const auto index = static_cast<std::size_t>(rating - 1);
     std::string summary = std::to_string(rating) + " of " + std::to_string(count);
     if (const std::string text = columnText(question, index); !text.empty())
         summary += " (" + text + ")";
-    m_answer = QString::fromStdString(summary);
-    m_given.push_back({question.id,
-                       question.type,
-                       {{scaleRowId(question), columnId(question, index, rating), std::nullopt}},
-                       summary});
+    remember({question.id,
+              question.type,
+              {{scaleRowId(question), columnId(question, index, rating), std::nullopt}},
+              summary});
     return {clickStep([view, rating] { return view ? view->ratingButtons().value(rating - 1) : nullptr; },
                       QStringLiteral("a rating")),
             shootStep(),
             clickStep([view] { return view ? view->actionButton() : nullptr; }, QStringLiteral("the action button"))};
 }
 
-std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multiRatingScript(TovuMultiRatingQuestionView *page)
+std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multiRatingScript(TovuMultiRatingQuestionView *page,
+                                                                            const TovuQuestion &question)
 {
     const QPointer view(page);
-    if (!page->question())
-        return unreadable();
-    const TovuQuestion question = *page->question();
-    m_title = shortText(question.title);
     constexpr std::array positions{4, 5, 3, 4};
-    TovuDemoGivenAnswer given{question.id, question.type, {}, {}};
-    std::vector<std::string> parts;
-    std::vector<Step> steps;
+    std::vector<Pick> picks;
     std::size_t row = 0;
     for (const TovuChoice &item : optionsOf(question)) {
         const auto buttons = page->rowButtons().find(item.id);
@@ -659,22 +666,18 @@ std::vector<TovuDemoPagePlayer::Step> TovuDemoPagePlayer::multiRatingScript(Tovu
         std::string column = columnId(question, index, position);
         if (!question.columns)
             column = buttons->second[position - 1]->objectName().section(QStringLiteral("::"), 1).toStdString();
-        given.values.push_back({item.id, column, std::nullopt});
         const std::string text = columnText(question, index);
-        parts.push_back(text.empty() ? std::to_string(position) : text);
-        steps.push_back(clickStep(
-            [view, id = item.id, position]() -> QWidget * {
-                if (!view)
-                    return nullptr;
-                const auto found = view->rowButtons().find(id);
-                return found == view->rowButtons().end() ? nullptr : found->second.value(position - 1);
-            },
-            QStringLiteral("a rating")));
+        picks.push_back({{item.id, column, std::nullopt},
+                         text.empty() ? std::to_string(position) : text,
+                         clickStep(
+                             [view, id = item.id, position]() -> QWidget * {
+                                 if (!view)
+                                     return nullptr;
+                                 const auto found = view->rowButtons().find(id);
+                                 return found == view->rowButtons().end() ? nullptr : found->second.value(position - 1);
+                             },
+                             QStringLiteral("a rating"))});
     }
-    given.summary = joined(parts);
-    m_answer = QString::fromStdString(given.summary);
-    m_given.push_back(given);
-    steps.push_back(shootStep());
-    steps.push_back(clickStep([view] { return view ? view->actionButton() : nullptr; }, QStringLiteral("Next")));
-    return steps;
+    return answerWith(
+        question, std::move(picks), [view] { return view ? view->actionButton() : nullptr; }, QStringLiteral("Next"));
 }

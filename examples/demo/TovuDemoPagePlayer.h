@@ -9,6 +9,8 @@
 #include <QTimer>
 
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 class QWidget;
@@ -23,6 +25,7 @@ class TovuSingleChoiceQuestionView;
 class TovuTextBoxQuestionView;
 class TovuThankYouView;
 class TovuToasterView;
+struct TovuQuestion;
 
 /// Answers the pages of a survey sheet one after the other, as a respondent
 /// would: it clicks options, scores and buttons and types plausible text,
@@ -97,19 +100,40 @@ private:
     void finishPage();
     void fail(const QString &why);
 
+    /// One of the answers a page of several takes: the value it records, how
+    /// the summary shows it, and the step that gives it.
+    struct Pick {
+        TovuDemoGivenAnswer::Value value;
+        std::string text;
+        Step step;
+    };
+    /// A question page's script, given the page and the question it shows.
+    template<typename View>
+    using QuestionScript = std::vector<Step> (TovuDemoPagePlayer::*)(View *, const TovuQuestion &);
+
     // What each page type does.
     std::vector<Step> script(QWidget *page);
+    template<typename View>
+    std::vector<Step> questionScript(View *page, QuestionScript<View> answer);
     std::vector<Step> introScript(TovuIntroView *page);
     std::vector<Step> thankYouScript(TovuThankYouView *page);
-    std::vector<Step> singleChoiceScript(TovuSingleChoiceQuestionView *page);
-    std::vector<Step> multipleChoiceScript(TovuMultipleChoiceQuestionView *page);
-    std::vector<Step> dropdownScript(TovuDropdownQuestionView *page);
-    std::vector<Step> textBoxScript(TovuTextBoxQuestionView *page);
-    std::vector<Step> npsScript(TovuNPSQuestionView *page);
-    std::vector<Step> multiNpsScript(TovuMultiNPSQuestionView *page);
-    std::vector<Step> ratingScript(TovuRatingQuestionView *page);
-    std::vector<Step> multiRatingScript(TovuMultiRatingQuestionView *page);
-    static std::vector<Step> unreadable();
+    std::vector<Step> singleChoiceScript(TovuSingleChoiceQuestionView *page, const TovuQuestion &question);
+    std::vector<Step> multipleChoiceScript(TovuMultipleChoiceQuestionView *page, const TovuQuestion &question);
+    std::vector<Step> dropdownScript(TovuDropdownQuestionView *page, const TovuQuestion &question);
+    std::vector<Step> textBoxScript(TovuTextBoxQuestionView *page, const TovuQuestion &question);
+    std::vector<Step> npsScript(TovuNPSQuestionView *page, const TovuQuestion &question);
+    std::vector<Step> multiNpsScript(TovuMultiNPSQuestionView *page, const TovuQuestion &question);
+    std::vector<Step> ratingScript(TovuRatingQuestionView *page, const TovuQuestion &question);
+    std::vector<Step> multiRatingScript(TovuMultiRatingQuestionView *page, const TovuQuestion &question);
+
+    // What the scripts share.
+    static std::vector<Step> stuck(const QString &what);
+    void remember(TovuDemoGivenAnswer given);
+    int rememberOption(const TovuQuestion &question, qsizetype shown);
+    void shootThenClick(std::vector<Step> &steps, std::function<QWidget *()> button, const QString &what);
+    std::vector<Step> answerWith(const TovuQuestion &question, std::vector<Pick> picks,
+                                 std::function<QWidget *()> button, const QString &what,
+                                 std::string_view separator = ", ");
     Step clickStep(std::function<QWidget *()> target, const QString &what);
     Step typeStep(std::function<QWidget *()> field, const QString &text, const QString &what);
     Step shootStep();
