@@ -492,9 +492,13 @@ void BM_PresentSurvey(benchmark::State &state, TovuSurvey (*make)())
         state.PauseTiming();
         session.closeSheet();
         session.manager->configure(survey);
-        // A host configures well before it shows: the idle time the library
-        // uses to prepare the first page passes.
-        idleFor(100);
+        // A host configures well before it shows: the idle time in which the
+        // library prepares the first page of the process passes once. Later
+        // iterations run back to back (idle gaps would measure a cooled-down
+        // CPU rather than the library; TOVU_IDLE_MS sets a gap for every one).
+        static bool prepared = false;
+        idleFor(prepared ? qEnvironmentVariableIntValue("TOVU_IDLE_MS") : 300);
+        prepared = true;
         state.ResumeTiming();
         split.call([&] { session.manager->presentSurvey(&rig.host); });
         split.frame();
