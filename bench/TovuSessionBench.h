@@ -9,13 +9,20 @@
 #include <tovukit_io/network/TovuAPISurveyDataJson.h>
 #include <tovukit_io/platform/TovuClock.h>
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QTimer>
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <unistd.h>
 
 namespace TovuSessionBench {
 
@@ -68,6 +75,41 @@ inline std::vector<TovuQueuedResponse> sampleResponses(std::size_t count)
         responses.push_back(TovuResponseAssembly::assemble(session, "complete", *TovuClock::system(),
                                                            "R-" + std::to_string(100'000 + i)));
     return responses;
+}
+
+// Runs the event loop until `done` (at most `timeoutMs`), deleting what was let go
+// of on the way as a running loop would. Returns whether `done` came true.
+inline bool spinUntil(const std::function<bool()> &done, int timeoutMs = 30000)
+{
+    const QDeadlineTimer deadline(timeoutMs);
+    QTimer wake; // so a wait for more events never outlasts the deadline
+    wake.start(1);
+    while (!done()) {
+        if (deadline.hasExpired())
+            return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return true;
+}
+
+// Runs the event loop for `ms` milliseconds, as an idle application would.
+inline void idleFor(int ms)
+{
+    QElapsedTimer idle;
+    idle.start();
+    spinUntil([&idle, ms] { return idle.elapsed() > ms; });
+}
+
+// Resident set of a process (this one by default), in MiB, from /proc/<pid>/statm.
+inline double residentMiB(const QString &pid = QStringLiteral("self"))
+{
+    QFile statm(QStringLiteral("/proc/%1/statm").arg(pid));
+    if (!statm.open(QIODevice::ReadOnly))
+        return 0;
+    const QList<QByteArray> fields = statm.readAll().split(' ');
+    const double pages = fields.size() > 1 ? fields[1].toDouble() : 0;
+    return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
 }
 
 } // namespace TovuSessionBench

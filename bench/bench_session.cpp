@@ -7,6 +7,7 @@
 
 #include "TovuDevServer.h"
 #include "TovuSessionBench.h"
+#include "TovuSessionSurveys.h"
 
 #include <tovukit_io/core/TovuNativeSurveyManager.h>
 #include <tovukit_io/core/TovuSurveyPresenter.h>
@@ -51,34 +52,15 @@
 
 namespace {
 
+using namespace TovuSessionSurveys;
+using TovuSessionBench::idleFor;
+using TovuSessionBench::residentMiB;
+using TovuSessionBench::spinUntil;
+
 constexpr const char *demoKey = "tovu-demo-key";
 constexpr const char *demoToken = "tovu-demo-token";
 constexpr const char *collectorId = "collector-customer-satisfaction";
 constexpr QSize phoneSize{390, 844};
-
-// Runs the event loop until `done` (at most `timeoutMs`), deleting what was let go
-// of on the way as a running loop would. Returns whether `done` came true.
-bool spinUntil(const std::function<bool()> &done, int timeoutMs = 10000)
-{
-    const QDeadlineTimer deadline(timeoutMs);
-    QTimer wake; // so a wait for more events never outlasts the deadline
-    wake.start(1);
-    while (!done()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    return true;
-}
-
-// Runs the event loop for `ms` milliseconds, as an idle application would.
-void idleFor(int ms)
-{
-    QElapsedTimer idle;
-    idle.start();
-    spinUntil([&idle, ms] { return idle.elapsed() > ms; });
-}
 
 // Shows `window` and waits until the platform exposed it, so it paints.
 void showWindow(QWidget &window)
@@ -212,168 +194,7 @@ public:
     std::unique_ptr<TovuNativeSurveyManager> manager;
 };
 
-// -- surveys -------------------------------------------------------------------------------------
-
-const std::vector<TovuSurvey> &samples()
-{
-    static const std::vector<TovuSurvey> surveys{TovuSessionBench::sampleSurvey("customer-satisfaction"),
-                                                 TovuSessionBench::sampleSurvey("onboarding"),
-                                                 TovuSessionBench::sampleSurvey("product-feedback")};
-    return surveys;
-}
-
-// The first page of the samples that `matches`, or an empty question.
-TovuQuestion sampleQuestion(const std::function<bool(const TovuQuestion &)> &matches)
-{
-    for (const TovuSurvey &survey : samples()) {
-        const auto found = std::ranges::find_if(survey.questions, matches);
-        if (found != survey.questions.end())
-            return *found;
-    }
-    return {};
-}
-
-TovuSurvey customerSatisfaction()
-{
-    return samples()[0];
-}
-
-TovuSurvey customerSatisfactionWithoutIntro()
-{
-    TovuSurvey survey = samples()[0];
-    survey.introPage.reset();
-    return survey;
-}
-
-std::vector<TovuChoice> grid(const std::string &prefix, int count)
-{
-    std::vector<TovuChoice> choices;
-    for (int i = 1; i <= count; ++i) {
-        const std::string id = prefix + std::to_string(i);
-        choices.push_back({.id = id, .text = "Part of the order number " + std::to_string(i), .value = id});
-    }
-    return choices;
-}
-
-// The largest page: the sample's multi-rating grid grown to ten rows of ten columns.
-TovuSurvey multiRating10x10()
-{
-    TovuQuestion grid10 = sampleQuestion([](const TovuQuestion &q) { return q.type == TovuQuestionType::multiRating; });
-    grid10.options = grid("row-", 10);
-    grid10.columns = grid("col-", 10);
-    TovuSurvey survey = customerSatisfactionWithoutIntro();
-    survey.questions = {grid10, survey.questions.back()};
-    return survey;
-}
-
-// -- page types ------------------------------------------------------------------------------------
-
-// One page type: which sample page it is, what the respondent does on it (not
-// timed) and the tap that hands the answer on (timed, with what follows).
-struct PageKind {
-    std::function<bool(const TovuQuestion &)> matches;
-    std::function<void(QWidget *)> choose;
-    std::function<void(QWidget *)> submit;
-};
-
-template<class View>
-PageKind pageKind(TovuQuestionType type, std::type_identity_t<void (*)(View &)> choose, void (View::*submit)(),
-                  std::string style = {})
-{
-    return {
-        [type, style](const TovuQuestion &q) { return q.type == type && (style.empty() || q.ratingStyle == style); },
-        [choose](QWidget *page) { choose(*qobject_cast<View *>(page)); },
-        [submit](QWidget *page) {
-            (qobject_cast<View *>(page)->*submit)();
-        }};
-}
-
-void typeInEveryField(TovuTextBoxQuestionView &view)
-{
-    for (TovuTextField *field : view.textFields())
-        field->setText(QStringLiteral("Quick delivery and a friendly driver, thanks!"));
-}
-
-void rateFour(TovuRatingQuestionView &view)
-{
-    view.ratingTapped(view.ratingButtons()[3]);
-}
-
-void rateEveryRow(TovuMultiRatingQuestionView &view)
-{
-    for (const auto &[rowId, buttons] : view.rowButtons())
-        view.colTapped(buttons[std::min<qsizetype>(2, buttons.size() - 1)]);
-}
-
-void scoreEveryRow(TovuMultiNPSQuestionView &view)
-{
-    for (const QList<TovuButton *> &row : view.scoreButtons())
-        view.scoreTapped(row[8]);
-}
-
-void scoreNineWithFollowUp(TovuNPSQuestionView &view)
-{
-    view.npsTapped(view.npsButtons()[9]);
-    if (!view.followUpOptionButtons().isEmpty())
-        view.followUpOptionTapped(view.followUpOptionButtons()[0]);
-}
-
-using Type = TovuQuestionType;
-
-const PageKind singleChoice = pageKind<TovuSingleChoiceQuestionView>(
-    Type::singleChoice, [](auto &v) { v.optionTapped(v.optionRows()[1]); }, &TovuSingleChoiceQuestionView::nextTapped);
-const PageKind multipleChoice = pageKind<TovuMultipleChoiceQuestionView>(
-    Type::multipleChoice,
-    [](auto &v) {
-        v.optionTapped(v.optionButtons()[0]);
-        v.optionTapped(v.optionButtons()[2]);
-    },
-    &TovuMultipleChoiceQuestionView::nextTapped);
-const PageKind dropdown = pageKind<TovuDropdownQuestionView>(
-    Type::dropdown,
-    [](auto &v) {
-        v.toggleDropdown();
-        v.optionTapped(v.optionButtons()[2]);
-    },
-    &TovuDropdownQuestionView::nextTapped);
-const PageKind singleTextBox
-    = pageKind<TovuTextBoxQuestionView>(Type::singleTextBox, typeInEveryField, &TovuTextBoxQuestionView::submitTapped);
-const PageKind multipleTextBox = pageKind<TovuTextBoxQuestionView>(Type::multipleTextBox, typeInEveryField,
-                                                                   &TovuTextBoxQuestionView::submitTapped);
-const PageKind nps
-    = pageKind<TovuNPSQuestionView>(Type::nps, scoreNineWithFollowUp, &TovuNPSQuestionView::actionTapped);
-const PageKind multiNps
-    = pageKind<TovuMultiNPSQuestionView>(Type::multiNps, scoreEveryRow, &TovuMultiNPSQuestionView::actionTapped);
-const PageKind ratingStars
-    = pageKind<TovuRatingQuestionView>(Type::rating, rateFour, &TovuRatingQuestionView::actionTapped, "stars");
-const PageKind ratingEmoji
-    = pageKind<TovuRatingQuestionView>(Type::rating, rateFour, &TovuRatingQuestionView::actionTapped, "emoji");
-const PageKind multiRating = pageKind<TovuMultiRatingQuestionView>(Type::multiRating, rateEveryRow,
-                                                                   &TovuMultiRatingQuestionView::actionTapped);
-
-// Two pages of `kind` then the thank-you page; or, `toThankYou`, a page of `kind` then the thank-you page.
-TovuSurvey transitionSurvey(const PageKind &kind, bool toThankYou)
-{
-    TovuSurvey survey = customerSatisfactionWithoutIntro();
-    const TovuQuestion thankYou = survey.questions.back();
-    TovuQuestion first = sampleQuestion(kind.matches);
-    TovuQuestion second = first;
-    second.id += "-again";
-    survey.questions = toThankYou ? std::vector{first, thankYou} : std::vector{first, second, thankYou};
-    return survey;
-}
-
 // -- benchmarks --------------------------------------------------------------------------------------
-
-// Resident set size: what the process holds in RAM.
-double residentMiB()
-{
-    std::ifstream statm("/proc/self/statm");
-    long size = 0;
-    long resident = 0;
-    statm >> size >> resident;
-    return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
-}
 
 // The memory a sheet with the largest page adds, painted into its host's backing
 // store. The first sheet of a process also loads fonts, glyphs and styles, so that

@@ -36,28 +36,8 @@
 
 namespace {
 
-bool spinUntil(const std::function<bool()> &done, int timeoutMs = 30000)
-{
-    const QDeadlineTimer deadline(timeoutMs);
-    while (!done()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    return true;
-}
-
-// Resident set of one process, in MiB, from /proc/<pid>/statm.
-double residentMiB(const QString &pid)
-{
-    QFile statm(QStringLiteral("/proc/%1/statm").arg(pid));
-    if (!statm.open(QIODevice::ReadOnly))
-        return 0;
-    const QList<QByteArray> fields = statm.readAll().split(' ');
-    const double pages = fields.size() > 1 ? fields[1].toDouble() : 0;
-    return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
-}
+using TovuSessionBench::residentMiB;
+using TovuSessionBench::spinUntil;
 
 QByteArray commandOf(const QString &pid)
 {

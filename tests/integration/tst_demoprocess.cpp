@@ -3,7 +3,6 @@
 // exits 0; a bad option, an unknown survey or a port in use is one line on
 // standard error and a non-zero exit, never a crash.
 
-#include "TovuDemoOptions.h"
 #include "TovuDevServer.h"
 
 #include <QDir>
@@ -139,34 +138,4 @@ TEST(DemoProgram, RefusalsAreOneLineAndANonZeroExit)
     const DemoRun help = runDemo({QStringLiteral("--help")});
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_TRUE(help.out.startsWith(QStringLiteral("usage: tovu-demo"))) << help.out.toStdString();
-}
-
-TEST(DemoOptions, ReadsEveryOption)
-{
-    const auto options = TovuDemoOptions::parse(
-        {QStringLiteral("--autoplay"), QStringLiteral("--survey=onboarding"), QStringLiteral("--screenshots"),
-         QStringLiteral("out"), QStringLiteral("--offline-first"), QStringLiteral("--dark"), QStringLiteral("--theme"),
-         QStringLiteral("#7c3aed"), QStringLiteral("--port"), QStringLiteral("8787"), QStringLiteral("--verbose"),
-         QStringLiteral("-platform"), QStringLiteral("xcb")});
-    ASSERT_TRUE(options) << options.error().toStdString();
-    EXPECT_TRUE(options->autoplay);
-    EXPECT_TRUE(options->offlineFirst);
-    EXPECT_TRUE(options->dark);
-    EXPECT_TRUE(options->verbose);
-    EXPECT_EQ(options->survey, QStringLiteral("onboarding"));
-    EXPECT_EQ(options->screenshotsDir, QStringLiteral("out"));
-    EXPECT_EQ(options->theme, TovuDemoOptions::Theme::primaryColor);
-    EXPECT_EQ(options->primaryColor, QColor(0x7C, 0x3A, 0xED));
-    EXPECT_EQ(options->port, 8787);
-    EXPECT_EQ(options->qtArguments,
-              (QStringList{QStringLiteral("tovu-demo"), QStringLiteral("-platform"), QStringLiteral("xcb")}));
-
-    const auto defaults = TovuDemoOptions::parse({});
-    ASSERT_TRUE(defaults);
-    EXPECT_FALSE(defaults->autoplay);
-    EXPECT_EQ(defaults->theme, TovuDemoOptions::Theme::survey);
-    EXPECT_EQ(defaults->screenshotsDir, QStringLiteral("demo-screenshots"));
-    EXPECT_EQ(defaults->port, 0);
-    EXPECT_EQ(TovuDemoOptions::parse({QStringLiteral("--theme"), QStringLiteral("host")})->theme,
-              TovuDemoOptions::Theme::host);
 }
