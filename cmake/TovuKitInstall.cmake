@@ -7,6 +7,7 @@ install(TARGETS ${layers} tovukit_io
   EXPORT tovukit_ioTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/tovukit_io/objects
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 # Each layer installs its own headers (tovukit_add_layer).

@@ -56,5 +56,22 @@ function(tovukit_add_layer layer)
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
   target_link_libraries(${target} PUBLIC ${ARG_PUBLIC_LINK} PRIVATE ${ARG_PRIVATE_LINK})
   tovukit_apply_settings(${target})
+  set_target_properties(${target} PROPERTIES TOVUKIT_GROUP ${ARG_GROUP})
   set_property(GLOBAL APPEND PROPERTY ${ARG_GROUP} ${target})
+endfunction()
+
+# A front end's registration with the manager: one object file that every
+# executable linking tovukit_<layer> links in full, so the static initializer
+# in it always runs (a linker drops the object files of a static library that
+# nothing refers to). The file must need nothing but the TovuKit headers.
+function(tovukit_add_front_end layer source)
+  set(target tovukit_${layer}_frontend)
+  add_library(${target} OBJECT ${source})
+  add_library(tovukit::${target} ALIAS ${target})
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON EXPORT_NAME ${target})
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src")
+  tovukit_apply_settings(${target})
+  target_link_libraries(tovukit_${layer} INTERFACE "$<TARGET_OBJECTS:$<TARGET_NAME:${target}>>")
+  get_target_property(group tovukit_${layer} TOVUKIT_GROUP)
+  set_property(GLOBAL APPEND PROPERTY ${group} ${target})
 endfunction()

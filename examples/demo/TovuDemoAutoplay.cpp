@@ -8,6 +8,8 @@
 #include "TovuDemoStoredResponses.h"
 #include "TovuDemoWindow.h"
 
+#include <tovukit_io/ui/TovuToasterView.h>
+
 #include <QDir>
 #include <QPointer>
 

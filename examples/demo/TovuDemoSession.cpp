@@ -7,6 +7,7 @@
 #include <QMetaEnum>
 #include <QPointer>
 #include <QUrl>
+#include <QWidget>
 
 namespace {
 

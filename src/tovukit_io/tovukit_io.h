@@ -62,6 +62,7 @@
 #include <tovukit_io/ui/TovuNPSQuestionView.h>
 #include <tovukit_io/ui/TovuQuestionView.h>
 #include <tovukit_io/ui/TovuRatingQuestionView.h>
+#include <tovukit_io/ui/TovuSheetPresenter.h>
 #include <tovukit_io/ui/TovuSingleChoiceQuestionView.h>
 #include <tovukit_io/ui/TovuTextBoxQuestionView.h>
 #include <tovukit_io/ui/TovuThankYouView.h>
@@ -85,9 +86,9 @@
 #include <tovukit_io/ui/kit/TovuTextField.h>
 #include <tovukit_io/ui/kit/TovuTextFit.h>
 
+#include <tovukit_io/core/TovuFrontEnds.h>
 #include <tovukit_io/core/TovuNativeSurveyManager.h>
 #include <tovukit_io/core/TovuOfflineQueue.h>
 #include <tovukit_io/core/TovuResponseAssembly.h>
-#include <tovukit_io/core/TovuSheetPresenter.h>
 #include <tovukit_io/core/TovuSurveyIds.h>
 #include <tovukit_io/core/TovuSurveyPresenter.h>

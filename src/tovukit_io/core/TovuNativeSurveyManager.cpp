@@ -1,20 +1,18 @@
 #include <tovukit_io/core/TovuNativeSurveyManagerPrivate.h>
 
+#include <tovukit_io/core/TovuFrontEnds.h>
 #include <tovukit_io/core/TovuResponseAssembly.h>
-#include <tovukit_io/core/TovuSheetPresenter.h>
 #include <tovukit_io/model/TovuLog.h>
 #include <tovukit_io/model/TovuRatingVariant.h>
 #include <tovukit_io/network/TovuNetworkService.h>
 #include <tovukit_io/platform/TovuClock.h>
 #include <tovukit_io/platform/TovuPathMonitor.h>
 #include <tovukit_io/platform/TovuUserDefaults.h>
-#include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <QCoreApplication>
 #include <QTimer>
 #include <QUuid>
-#include <QWidget>
 
 #include <cmath>
 
@@ -40,7 +38,7 @@ TovuNativeSurveyManagerPrivate::TovuNativeSurveyManagerPrivate(TovuNativeSurveyM
     , store(deps.store)
     , clock(deps.clock ? *deps.clock : *TovuClock::system())
     , urlOpener(deps.urlOpener)
-    , ownPresenter(deps.presenter ? nullptr : std::make_unique<TovuSheetPresenter>(deps.urlOpener))
+    , ownPresenter(deps.presenter ? nullptr : TovuFrontEnds::createPresenter(deps.urlOpener))
     , presenter(deps.presenter ? *deps.presenter : *ownPresenter)
     , ownPathMonitor(deps.pathMonitor ? nullptr : TovuPathMonitor::createDefault())
     , monitor(deps.pathMonitor ? deps.pathMonitor : ownPathMonitor.get())
@@ -196,9 +194,26 @@ void TovuNativeSurveyManagerPrivate::refuse(TovuNativeSurveyManager::Presentatio
     Q_EMIT q->presentationRefused(reason);
 }
 
-void TovuNativeSurveyManager::fetchAndPresentSurvey(QWidget *host)
+// A host no linked front end can cover is refused before anything changes: the
+// session on screen, if any, goes on.
+bool TovuNativeSurveyManagerPrivate::canCover(QObject *host)
 {
-    const QPointer<QWidget> weakHost(host);
+    if (host && presenter.canPresent(host))
+        return true;
+    if (!host) {
+        TovuLog::print(">>> Tovu SDK Error: No host to present the survey on.");
+    } else {
+        TovuLog::print(std::string(">>> Tovu SDK Error: Cannot present the survey over a ")
+                       + host->metaObject()->className()
+                       + ": link tovukit_io to cover a QWidget, tovukit_quick to cover a QQuickWindow or QQuickItem.");
+    }
+    refuse(TovuNativeSurveyManager::PresentationRefusal::noHostWindow);
+    return false;
+}
+
+void TovuNativeSurveyManager::fetchAndPresentSurvey(QObject *host)
+{
+    const QPointer<QObject> weakHost(host);
     if (d->survey) {
         later(this, [this, weakHost] { presentSurvey(weakHost); });
     } else if (d->configuredSurveyId) {
@@ -222,7 +237,7 @@ void TovuNativeSurveyManager::fetchAndPresentSurvey(QWidget *host)
     }
 }
 
-void TovuNativeSurveyManagerPrivate::fetchThenPresent(const std::string &surveyId, QPointer<QWidget> host)
+void TovuNativeSurveyManagerPrivate::fetchThenPresent(const std::string &surveyId, QPointer<QObject> host)
 {
     service.fetchSurvey(surveyId, [manager = QPointer(q), host](TovuResult<TovuSurvey> result) {
         if (!manager)
@@ -233,7 +248,7 @@ void TovuNativeSurveyManagerPrivate::fetchThenPresent(const std::string &surveyI
     });
 }
 
-void TovuNativeSurveyManagerPrivate::surveyArrived(TovuResult<TovuSurvey> result, QPointer<QWidget> host)
+void TovuNativeSurveyManagerPrivate::surveyArrived(TovuResult<TovuSurvey> result, QPointer<QObject> host)
 {
     if (!host)
         return; // the host went away while fetching: nothing to show on
@@ -248,7 +263,7 @@ void TovuNativeSurveyManagerPrivate::surveyArrived(TovuResult<TovuSurvey> result
     q->presentSurvey(host);
 }
 
-void TovuNativeSurveyManager::fetchAndPresentLowestResponseSurvey(std::vector<std::string> surveyIds, QWidget *host)
+void TovuNativeSurveyManager::fetchAndPresentLowestResponseSurvey(std::vector<std::string> surveyIds, QObject *host)
 {
     if (surveyIds.empty()) {
         TovuLog::print(">>> Tovu SDK Error: surveyUUIDs array is empty.");
@@ -268,7 +283,7 @@ void TovuNativeSurveyManager::fetchAndPresentLowestResponseSurvey(std::vector<st
         });
 }
 
-void TovuNativeSurveyManager::startIntercept(double afterDelaySeconds, QWidget *host)
+void TovuNativeSurveyManager::startIntercept(double afterDelaySeconds, QObject *host)
 {
     if (d->triggerTimer)
         d->triggerTimer->deleteLater(); // stopped with it: only the newest intercept fires
@@ -290,17 +305,15 @@ void TovuNativeSurveyManager::startIntercept(double afterDelaySeconds, QWidget *
     timer->start();
 }
 
-void TovuNativeSurveyManager::presentSurvey(QWidget *host)
+void TovuNativeSurveyManager::presentSurvey(QObject *host)
 {
     if (!d->survey) {
         TovuLog::print(">>> Tovu SDK Error: No survey configured.");
         d->refuse(PresentationRefusal::noSurvey);
         return;
     }
-    if (!host) {
-        d->refuse(PresentationRefusal::noHostWindow);
+    if (!d->canCover(host))
         return;
-    }
     d->resetSession();
     if (d->survey->theme)
         TovuThemeEngine::shared().setTheme(d->survey->theme);

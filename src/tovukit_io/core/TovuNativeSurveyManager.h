@@ -21,12 +21,13 @@
 #include <vector>
 
 class QTimer;
-class QWidget;
+class QQuickItem;
 class TovuClock;
 class TovuKeyValueStore;
 class TovuNativeSurveyManagerPrivate;
 class TovuNetworkService;
 class TovuPathMonitor;
+class TovuQuickSheet;
 class TovuSurveyPresenter;
 class TovuToasterView;
 class TovuUrlOpener;
@@ -46,6 +47,11 @@ class TovuUrlOpener;
 /// tovu.startIntercept(3.0, mainWindow);   // shows the survey over mainWindow in 3 s
 /// \endcode
 ///
+/// A host is what the sheet covers: a QWidget (its window or any widget) when the
+/// application links tovukit_io, a QQuickWindow or any QQuickItem when it links
+/// tovukit_quick. In QML the same object is the singleton `TovuNativeSurveyManager`
+/// of `import TovuKit`.
+///
 /// Everything runs on the GUI thread and nothing is reported by exception:
 /// progress and failures are console lines (TovuLog), and the signals below
 /// tell a host what happened in code. Responses that cannot be sent are
@@ -57,7 +63,8 @@ public:
     /// What the manager works with. Each null member means the library's own:
     /// the shared backend client, TovuUserDefaults::standard(), the system's
     /// path monitor, the system clock, the default URL opener and the Widgets
-    /// sheet. Given objects stay owned by the caller and must outlive the manager.
+    /// front ends linked into the application (TovuFrontEnds). Given objects stay owned
+    /// by the caller and must outlive the manager.
     struct Dependencies {
         TovuNetworkService *networkService;
         TovuKeyValueStore *store;
@@ -71,7 +78,7 @@ public:
     enum class PresentationRefusal {
         notConfigured, ///< no survey id or collector id was configured
         noSurvey, ///< presentSurvey() without a survey held
-        noHostWindow, ///< the host is null, gone, or not something the presenter can cover
+        noHostWindow, ///< the host is null, gone, or nothing a linked front end can cover
         fetchFailed, ///< the collector, the survey or the lowest-response choice could not be fetched
     };
     Q_ENUM(PresentationRefusal)
@@ -103,13 +110,13 @@ public:
     void clearUser();
 
     /// Shows the survey over `host` after `afterDelaySeconds`; a second call replaces the first.
-    void startIntercept(double afterDelaySeconds, QWidget *host);
+    Q_INVOKABLE void startIntercept(double afterDelaySeconds, QObject *host);
     /// Shows the held survey, or fetches the configured one first.
-    void fetchAndPresentSurvey(QWidget *host);
+    Q_INVOKABLE void fetchAndPresentSurvey(QObject *host);
     /// Shows whichever of `surveyIds` has the fewest responses so far.
-    void fetchAndPresentLowestResponseSurvey(std::vector<std::string> surveyIds, QWidget *host);
+    void fetchAndPresentLowestResponseSurvey(std::vector<std::string> surveyIds, QObject *host);
     /// Starts a new session of the held survey in a sheet over `host`.
-    void presentSurvey(QWidget *host);
+    Q_INVOKABLE void presentSurvey(QObject *host);
 
     /// Keeps `answer` for the running session, replacing one to the same question.
     void recordAnswer(TovuAnswer answer);
@@ -126,8 +133,21 @@ public:
     const std::string &resolvedCollectorUUID() const;
     const std::string &resolvedCollectorMongoId() const;
     int currentQuestionIndex() const;
-    /// The sheet of the running session (Widgets presenter), or null.
-    TovuToasterView *toasterView() const;
+    /// The sheet of the running session, whichever front end shows it, or null.
+    QObject *currentSheet() const;
+    /// The sheet of the running session when the Qt Widgets front end shows it, else
+    /// null. (A template so that only code using it needs the widget header.)
+    template<class Sheet = TovuToasterView>
+    Sheet *toasterView() const
+    {
+        return qobject_cast<Sheet *>(currentSheet());
+    }
+    /// The sheet of the running session when the Qt Quick front end shows it, else null.
+    template<class Sheet = TovuQuickSheet>
+    Sheet *quickSheet() const
+    {
+        return qobject_cast<Sheet *>(currentSheet());
+    }
     QTimer *triggerTimer() const;
     /// Kept for completeness: the queue lives in the store, not here.
     const std::vector<TovuQueuedResponse> &responseQueue() const;

@@ -30,9 +30,10 @@ public:
     void verifyKey();
     void prefetch();
     void keepCollector(const CollectorInfo &collector);
-    void fetchThenPresent(const std::string &surveyId, QPointer<QWidget> host);
-    void surveyArrived(TovuResult<TovuSurvey> result, QPointer<QWidget> host);
+    void fetchThenPresent(const std::string &surveyId, QPointer<QObject> host);
+    void surveyArrived(TovuResult<TovuSurvey> result, QPointer<QObject> host);
     void refuse(TovuNativeSurveyManager::PresentationRefusal reason);
+    bool canCover(QObject *host);
 
     // The session.
     void resetSession();

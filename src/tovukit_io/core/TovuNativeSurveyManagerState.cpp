@@ -2,8 +2,6 @@
 
 #include <tovukit_io/core/TovuNativeSurveyManagerPrivate.h>
 
-#include <tovukit_io/ui/TovuToasterView.h>
-
 #include <QTimer>
 
 const std::optional<TovuSurvey> &TovuNativeSurveyManager::survey() const
@@ -30,9 +28,9 @@ int TovuNativeSurveyManager::currentQuestionIndex() const
 {
     return d->currentQuestionIndex;
 }
-TovuToasterView *TovuNativeSurveyManager::toasterView() const
+QObject *TovuNativeSurveyManager::currentSheet() const
 {
-    return qobject_cast<TovuToasterView *>(d->presenter.sheet());
+    return d->presenter.sheet();
 }
 QTimer *TovuNativeSurveyManager::triggerTimer() const
 {

@@ -20,14 +20,18 @@ struct TovuPageRequest {
 };
 
 /// Puts a survey session on screen. The manager decides what to show and
-/// when; a presenter only shows it: the Widgets sheet by default
-/// (TovuSheetPresenter), a Qt Quick sheet over the same view models later.
+/// when; a presenter only shows it: the Qt Widgets sheet (TovuSheetPresenter,
+/// linked with tovukit_io) or the Qt Quick sheet (TovuQuickPresenter, linked
+/// with tovukit_quick), whichever can cover the host (TovuFrontEnds).
 /// Presenters live on the GUI thread.
 class TovuSurveyPresenter
 {
 public:
     virtual ~TovuSurveyPresenter();
 
+    /// Whether `host` is something this presenter can cover (a widget, a Qt
+    /// Quick window or item, …) in this application.
+    virtual bool canPresent(QObject *host) const = 0;
     /// Opens a sheet for `survey` over `host`, closing one still open.
     /// Returns false when `host` is not something this presenter can cover.
     virtual bool present(const TovuSurvey &survey, QObject *host) = 0;
@@ -39,7 +43,7 @@ public:
     virtual void dismiss() = 0;
     /// Whether a sheet is open and not closing.
     virtual bool isPresenting() const = 0;
-    /// The open sheet (a TovuToasterView for the Widgets presenter), or null.
+    /// The open sheet (a TovuToasterView, a TovuQuickSheet), or null.
     virtual QObject *sheet() const = 0;
     /// Told when the manager holds a survey that is not on screen yet, with
     /// the first question's page: a chance to load in idle time what showing

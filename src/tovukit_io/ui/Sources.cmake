@@ -1,12 +1,15 @@
-# Bottom sheet, pages and question views.
+# Bottom sheet, pages and question views, and the presenter that shows them for the manager.
 list(APPEND ui_sources
   TovuIntroView.cpp
+  TovuSheetPresenter.cpp
   TovuThankYouView.cpp
   TovuToasterView.cpp)
 list(APPEND ui_headers
   TovuIntroView.h
+  TovuSheetPresenter.h
   TovuThankYouView.h
-  TovuToasterView.h)
+  TovuToasterView.h
+  TovuWidgetsFrontEnd.h)
 
 # Question views: each draws its view model.
 list(APPEND ui_sources

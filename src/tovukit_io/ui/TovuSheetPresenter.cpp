@@ -1,4 +1,5 @@
-#include <tovukit_io/core/TovuSheetPresenter.h>
+#include <tovukit_io/ui/TovuSheetPresenter.h>
+#include <tovukit_io/ui/TovuWidgetsFrontEnd.h>
 
 #include <tovukit_io/ui/TovuDropdownQuestionView.h>
 #include <tovukit_io/ui/TovuIntroView.h>
@@ -15,6 +16,7 @@
 #include <tovukit_io/core/TovuManagerSupport.h>
 #include <tovukit_io/ui/kit/TovuEmoji.h>
 
+#include <QApplication>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -143,10 +145,6 @@ void paintInTurns(QObject *context, std::shared_ptr<PageMakers> pages, const Tov
 
 } // namespace
 
-TovuSurveyPresenter::~TovuSurveyPresenter() = default;
-
-void TovuSurveyPresenter::prepare(const TovuSurvey &, TovuPageRequest) { }
-
 TovuSheetPresenter::TovuSheetPresenter(TovuUrlOpener *urlOpener)
     : m_context(std::make_unique<QObject>())
     , m_urlOpener(urlOpener)
@@ -163,11 +161,16 @@ QWidget *TovuSheetPresenter::createPage(TovuPageRequest request, TovuUrlOpener *
     return questionPage(request);
 }
 
+bool TovuSheetPresenter::canPresent(QObject *host) const
+{
+    return qobject_cast<QApplication *>(QCoreApplication::instance()) && qobject_cast<QWidget *>(host);
+}
+
 bool TovuSheetPresenter::present(const TovuSurvey &survey, QObject *host)
 {
-    auto *hostWidget = qobject_cast<QWidget *>(host);
-    if (!hostWidget)
+    if (!canPresent(host))
         return false;
+    auto *hostWidget = static_cast<QWidget *>(host);
     if (m_sheet)
         m_sheet->dismiss();
     auto *sheet = new TovuToasterView(survey);
@@ -221,7 +224,8 @@ void TovuSheetPresenter::prepare(const TovuSurvey &survey, TovuPageRequest first
 {
     // What is loaded (font files, glyph caches, style data) is shared by the process.
     static bool prepared = false;
-    if (prepared)
+    // Widgets exist only in an application with a QApplication.
+    if (prepared || !qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
     prepared = true;
     // Answers from a page nobody sees must go nowhere.
@@ -234,4 +238,9 @@ void TovuSheetPresenter::prepare(const TovuSurvey &survey, TovuPageRequest first
     TovuManagerSupport::inBackground(
         m_context.get(), [] { return (loadFonts(), true); },
         [context = m_context.get(), pages, survey](bool) { prepareInTurns(context, pages, survey); });
+}
+
+std::unique_ptr<TovuSurveyPresenter> TovuWidgetsFrontEnd::createPresenter(TovuUrlOpener *urlOpener)
+{
+    return std::make_unique<TovuSheetPresenter>(urlOpener);
 }

@@ -6,11 +6,14 @@
 
 #include <memory>
 
+class QWidget;
 class TovuToasterView;
 class TovuUrlOpener;
 
 /// The Qt Widgets presenter: a TovuToasterView over a host widget, with the
-/// intro, question and thank-you views of the ui layer as its pages.
+/// intro, question and thank-you views of the ui layer as its pages. Linking
+/// tovukit_io adds it to TovuFrontEnds, so the manager uses it for any
+/// QWidget host of an application that has a QApplication.
 class TovuSheetPresenter : public TovuSurveyPresenter
 {
 public:
@@ -19,6 +22,8 @@ public:
     explicit TovuSheetPresenter(TovuUrlOpener *urlOpener = nullptr);
     ~TovuSheetPresenter() override;
 
+    /// A QWidget, in an application that has a QApplication (widgets exist in no other).
+    bool canPresent(QObject *host) const override;
     bool present(const TovuSurvey &survey, QObject *host) override;
     void showIntro(const TovuSurveyPage &page, std::function<void()> onStart) override;
     void showQuestion(TovuPageRequest request) override;
