@@ -60,12 +60,14 @@ function(tovukit_add_layer layer)
   set_property(GLOBAL APPEND PROPERTY ${ARG_GROUP} ${target})
 endfunction()
 
-# A front end's registration with the manager: one object file that every
-# executable linking tovukit_<layer> links in full, so the static initializer
-# in it always runs (a linker drops the object files of a static library that
-# nothing refers to). The file must need nothing but the TovuKit headers.
-function(tovukit_add_front_end layer source)
-  set(target tovukit_${layer}_frontend)
+# A layer's registration: one object file that every executable linking
+# tovukit_<layer> links in full, so the static initializers in it always run and
+# whatever it refers to is pulled out of the static libraries (a linker drops
+# the object files nothing refers to). Front ends add themselves to the manager
+# this way, and QML modules make their types known. The file must need nothing
+# but the TovuKit headers.
+function(tovukit_add_registration layer source)
+  set(target tovukit_${layer}_registration)
   add_library(${target} OBJECT ${source})
   add_library(tovukit::${target} ALIAS ${target})
   set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON EXPORT_NAME ${target})

@@ -2,6 +2,7 @@
 // views clicked offscreen: configuration, the fetch chain, the flow and its
 // timings, what reaches the backend, and the offline queue with its flush.
 
+#include "TovuAnsweredPages.h"
 #include "TovuBackendFixture.h"
 #include "TovuSurveyClicker.h"
 
@@ -215,29 +216,7 @@ TEST_F(SurveyManager, EverySampleSurveyReachesTheBackendAsAnswered)
         EXPECT_EQ(item["geoLocation"]["coordinates"], Json::parse("[null, null]"));
         EXPECT_EQ(item["geoLocation"]["city"], "Berlin");
 
-        // Every page answered is in the payload with what was chosen or typed, and timed.
-        const Json &timed = item["qualityFlags"]["data"]["timePerQues"];
-        EXPECT_FALSE(timed.contains("thank_you_auto"));
-        for (const auto &e : clicker.expected) {
-            SCOPED_TRACE(e.questionId);
-            EXPECT_TRUE(timed.contains(e.questionId));
-            const auto question
-                = std::ranges::find(item["questions"], Json(e.questionId), [](const Json &q) { return q["uuid"]; });
-            ASSERT_NE(question, item["questions"].end());
-            std::vector<std::string> rows, texts;
-            for (const Json &value : (*question)["answer"]) {
-                if (value.contains("row_id"))
-                    rows.push_back(value["row_id"]);
-                if (value.contains("text"))
-                    texts.push_back(value["text"]);
-            }
-            if (!e.rowIds.empty()) {
-                EXPECT_EQ(rows, e.rowIds);
-            }
-            for (const auto &text : e.texts)
-                EXPECT_NE(std::ranges::find(texts, text), texts.end()) << text;
-            EXPECT_FALSE((*question)["answer"].empty());
-        }
+        TovuAnsweredPages::check(item, clicker.expected);
         // The session ended, so the key is verified again and the next survey pre-fetched.
         ASSERT_TRUE(QTest::qWaitFor([&] { return manager->survey().has_value(); }, 5000));
     }

@@ -3,6 +3,8 @@
 // Answers whatever page a survey sheet shows, with real clicks and typing on
 // its widgets, and remembers what each answer must hold.
 
+#include "TovuAnsweredPages.h"
+
 #include <tovukit_io/ui/TovuDropdownQuestionView.h>
 #include <tovukit_io/ui/TovuIntroView.h>
 #include <tovukit_io/ui/TovuMultiNPSQuestionView.h>
@@ -29,13 +31,7 @@
 class TovuSurveyClicker
 {
 public:
-    /// What the response must hold for one answered page: the question, and
-    /// the row ids or texts the clicks chose (empty when any will do).
-    struct Expected {
-        std::string questionId;
-        std::vector<std::string> rowIds;
-        std::vector<std::string> texts;
-    };
+    using Expected = TovuAnsweredPages::Expected;
 
     static QWidget *currentPage(const TovuToasterView *sheet)
     {
