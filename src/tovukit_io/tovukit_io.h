@@ -53,6 +53,14 @@
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
+#include <tovukit_io/graphics/TovuBoxLook.h>
+#include <tovukit_io/graphics/TovuEmoji.h>
+#include <tovukit_io/graphics/TovuPainting.h>
+#include <tovukit_io/graphics/TovuShadow.h>
+#include <tovukit_io/graphics/TovuSymbol.h>
+#include <tovukit_io/graphics/TovuTextFit.h>
+#include <tovukit_io/graphics/TovuTextMetrics.h>
+
 #include <tovukit_io/ui/TovuDropdownQuestionView.h>
 #include <tovukit_io/ui/TovuFollowUpCard.h>
 #include <tovukit_io/ui/TovuIntroView.h>
@@ -68,11 +76,9 @@
 #include <tovukit_io/ui/TovuThankYouView.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
-#include <tovukit_io/ui/kit/TovuBoxLook.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuCaptionRow.h>
 #include <tovukit_io/ui/kit/TovuChevron.h>
-#include <tovukit_io/ui/kit/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuEqualWidthLayout.h>
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 #include <tovukit_io/ui/kit/TovuHairline.h>
@@ -80,11 +86,9 @@
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuScrollStrip.h>
 #include <tovukit_io/ui/kit/TovuShake.h>
-#include <tovukit_io/ui/kit/TovuSymbol.h>
 #include <tovukit_io/ui/kit/TovuSymbolButton.h>
 #include <tovukit_io/ui/kit/TovuTextArea.h>
 #include <tovukit_io/ui/kit/TovuTextField.h>
-#include <tovukit_io/ui/kit/TovuTextFit.h>
 
 #include <tovukit_io/core/TovuFrontEnds.h>
 #include <tovukit_io/core/TovuNativeSurveyManager.h>

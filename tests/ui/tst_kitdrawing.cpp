@@ -1,105 +1,16 @@
-// Drawn symbols and the motion clock.
+// The motion clock, and the graphics layer's placement agreeing with the widget styles'.
 
-#include <tovukit_io/ui/kit/TovuSymbol.h>
+#include <tovukit_io/graphics/TovuPainting.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 
-#include <QImage>
-#include <QPainter>
+#include <QStyle>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <limits>
 #include <utility>
-
-namespace {
-
-// Paints `name` into a 40 × 40 square at (20, 20) of an 80 × 80 transparent image.
-QImage paintSymbol(QStringView name, QFont::Weight weight = QFont::Normal)
-{
-    QImage image(80, 80, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    TovuSymbol::paint(painter, QRectF(20, 20, 40, 40), name, weight, QColor(0, 0, 255));
-    return image;
-}
-
-// Painted area in pixels (alpha-weighted), within `area` or everywhere.
-double covered(const QImage &image, const QRect &area = QRect())
-{
-    double sum = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (area.isNull() || area.contains(x, y))
-                sum += qAlpha(image.pixel(x, y)) / 255.0;
-        }
-    }
-    return sum;
-}
-
-} // namespace
-
-TEST(TovuSymbol, KnowsExactlyTheNamedSymbols)
-{
-    const QStringList names = TovuSymbol::names();
-    EXPECT_EQ(names.size(), 11);
-    for (const char *name : {"star", "star.fill", "heart", "heart.fill", "circle", "circle.fill", "square",
-                             "square.fill", "checkmark", "checkmark.circle.fill", "chevron.down"}) {
-        EXPECT_TRUE(names.contains(QLatin1StringView(name))) << name;
-        EXPECT_TRUE(TovuSymbol::isKnown(QString::fromLatin1(name))) << name;
-    }
-    for (const char *name : {"", "Star", "star.half", "chevron.up", "fill"})
-        EXPECT_FALSE(TovuSymbol::isKnown(QString::fromLatin1(name))) << name;
-}
-
-TEST(TovuSymbol, EverySymbolPaintsInsideItsRectangleInItsColourAndUnknownNamesNothing)
-{
-    for (const QString &name : TovuSymbol::names()) {
-        SCOPED_TRACE(name.toStdString());
-        const QImage image = paintSymbol(name);
-        const double inside = covered(image, QRect(20, 20, 40, 40));
-        EXPECT_GT(inside, 40.0);
-        EXPECT_EQ(covered(image), inside); // nothing outside the rectangle
-        for (int i = 20; i < 60; ++i) { // solid pixels on the diagonal are the exact colour
-            const QColor colour = image.pixelColor(i, i);
-            if (colour.alpha() == 255) {
-                EXPECT_EQ(colour, QColor(0, 0, 255));
-            }
-        }
-    }
-    EXPECT_EQ(covered(paintSymbol(u"star.half")), 0.0);
-    EXPECT_EQ(covered(paintSymbol(u"")), 0.0);
-}
-
-TEST(TovuSymbol, FilledSymbolsCoverMoreThanOutlinesAndWeightThickensStrokes)
-{
-    for (const char *outline : {"star", "heart", "circle", "square"}) {
-        SCOPED_TRACE(outline);
-        const QString name = QLatin1StringView(outline);
-        EXPECT_GT(covered(paintSymbol(QString(name + QLatin1StringView(".fill")))), covered(paintSymbol(name)) * 1.5);
-        EXPECT_GT(covered(paintSymbol(name, QFont::Bold)), covered(paintSymbol(name, QFont::Light)) * 1.2);
-    }
-    // The check is cut out of the disc: see-through where it runs, solid at the rim.
-    const QImage knocked = paintSymbol(u"checkmark.circle.fill");
-    EXPECT_LT(covered(knocked), covered(paintSymbol(u"circle.fill")) * 0.95);
-    EXPECT_EQ(knocked.pixelColor(40, 22).alpha(), 255);
-}
-
-TEST(TovuSymbol, PixmapIsPointSizeTimesRatioAndDrawnAtDeviceResolution)
-{
-    for (auto [points, dpr] : {std::pair{24.0, 1.0}, {24.0, 2.0}, {13.0, 3.0}, {10.0, 1.5}}) {
-        SCOPED_TRACE(dpr);
-        const QPixmap pixmap = TovuSymbol::pixmap(u"star.fill", points, QFont::Normal, Qt::black, dpr);
-        EXPECT_EQ(pixmap.size(), QSize(qRound(points * dpr), qRound(points * dpr)));
-        EXPECT_EQ(pixmap.devicePixelRatio(), dpr);
-        EXPECT_NEAR(covered(pixmap.toImage()) / (points * points * dpr * dpr), 0.45, 0.12);
-    }
-    EXPECT_TRUE(TovuSymbol::pixmap(u"star", 0, QFont::Normal, Qt::black, 2).isNull());
-    EXPECT_TRUE(TovuSymbol::pixmap(u"star", 24, QFont::Normal, Qt::black, 0).isNull());
-    const QImage unknown = TovuSymbol::pixmap(u"nope", 24, QFont::Normal, Qt::black, 2).toImage();
-    EXPECT_EQ(unknown.size(), QSize(48, 48));
-    EXPECT_EQ(covered(unknown), 0.0);
-}
+#include <vector>
 
 class TovuMotionTest : public testing::Test
 {
@@ -177,4 +88,34 @@ TEST_F(TovuMotionTest, EaseOutStartsFastAndEndsAtOne)
     EXPECT_NEAR(curve.valueForProgress(0), 0.0, 1e-6);
     EXPECT_NEAR(curve.valueForProgress(1), 1.0, 1e-6);
     EXPECT_GT(curve.valueForProgress(0.25), 0.35);
+}
+
+// The emoji faces are placed with TovuPainting::alignedRect where they were placed with the
+// widget style's before: every alignment, both directions, odd and even leftovers.
+TEST(TovuPainting, AlignedRectPlacesAsTheWidgetStylesDo)
+{
+    const std::vector<Qt::Alignment> horizontal{{},
+                                                Qt::AlignLeft,
+                                                Qt::AlignRight,
+                                                Qt::AlignHCenter,
+                                                Qt::AlignJustify,
+                                                Qt::AlignLeft | Qt::AlignAbsolute,
+                                                Qt::AlignRight | Qt::AlignAbsolute,
+                                                Qt::AlignAbsolute};
+    const std::vector<Qt::Alignment> vertical{{}, Qt::AlignTop, Qt::AlignBottom, Qt::AlignVCenter, Qt::AlignBaseline};
+    const std::vector<std::pair<QSize, QRect>> boxes{{QSize(30, 10), QRect(10, 20, 100, 50)},
+                                                     {QSize(31, 11), QRect(-7, 3, 101, 50)},
+                                                     {QSize(120, 60), QRect(0, 0, 100, 50)},
+                                                     {QSize(0, 0), QRect(5, 5, 9, 9)}};
+    for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        for (Qt::Alignment h : horizontal) {
+            for (Qt::Alignment v : vertical) {
+                for (const auto &[size, rect] : boxes) {
+                    SCOPED_TRACE(testing::Message() << direction << " " << (h | v).toInt() << " " << size.width());
+                    EXPECT_EQ(TovuPainting::alignedRect(direction, h | v, size, rect),
+                              QStyle::alignedRect(direction, h | v, size, rect));
+                }
+            }
+        }
+    }
 }

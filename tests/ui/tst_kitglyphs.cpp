@@ -1,8 +1,8 @@
 // The kit's glyph widgets drawn for real (offscreen): symbol buttons, the chevron,
 // hairlines, colour emoji and labels that shrink to fit.
 
+#include <tovukit_io/graphics/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuChevron.h>
-#include <tovukit_io/ui/kit/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 #include <tovukit_io/ui/kit/TovuHairline.h>
 #include <tovukit_io/ui/kit/TovuSymbolButton.h>

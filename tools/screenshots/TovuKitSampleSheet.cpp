@@ -1,15 +1,15 @@
 #include "TovuKitSampleSheet.h"
 
+#include <tovukit_io/graphics/TovuEmoji.h>
+#include <tovukit_io/graphics/TovuSymbol.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuChevron.h>
-#include <tovukit_io/ui/kit/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuEqualWidthLayout.h>
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 #include <tovukit_io/ui/kit/TovuHairline.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuScrollStrip.h>
-#include <tovukit_io/ui/kit/TovuSymbol.h>
 #include <tovukit_io/ui/kit/TovuSymbolButton.h>
 #include <tovukit_io/ui/kit/TovuTextArea.h>
 #include <tovukit_io/ui/kit/TovuTextField.h>

@@ -2,9 +2,9 @@
 
 #include "TovuQuestionParts.h"
 
+#include <tovukit_io/graphics/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuCaptionRow.h>
-#include <tovukit_io/ui/kit/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuSymbolButton.h>

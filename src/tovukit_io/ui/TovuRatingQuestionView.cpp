@@ -3,9 +3,9 @@
 #include "TovuQuestionParts.h"
 #include "TovuRatingParts.h"
 
+#include <tovukit_io/graphics/TovuEmoji.h>
 #include <tovukit_io/ui/TovuFollowUpCard.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
-#include <tovukit_io/ui/kit/TovuEmoji.h>
 #include <tovukit_io/ui/kit/TovuEqualWidthLayout.h>
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>

@@ -14,7 +14,7 @@
 #include <tovukit_io/ui/TovuToasterView.h>
 
 #include <tovukit_io/core/TovuManagerSupport.h>
-#include <tovukit_io/ui/kit/TovuEmoji.h>
+#include <tovukit_io/graphics/TovuEmoji.h>
 
 #include <QApplication>
 #include <QGuiApplication>

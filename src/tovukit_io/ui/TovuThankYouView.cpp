@@ -1,9 +1,9 @@
 #include <tovukit_io/ui/TovuThankYouView.h>
 
+#include <tovukit_io/graphics/TovuSymbol.h>
 #include <tovukit_io/platform/TovuUrlOpener.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
-#include <tovukit_io/ui/kit/TovuSymbol.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>

@@ -1,39 +1,29 @@
-# The widget kit: rounded boxes, buttons, labels, symbols, text inputs and rows.
+# The widget kit: rounded boxes, buttons, labels, text inputs and rows.
 list(APPEND ui_sources
   kit/TovuBox.cpp
-  kit/TovuBoxLook.cpp
   kit/TovuButton.cpp
   kit/TovuButtonScaleEffect.h
   kit/TovuCaptionRow.cpp
   kit/TovuChevron.cpp
-  kit/TovuEmoji.cpp
   kit/TovuEqualWidthLayout.cpp
   kit/TovuFitLabel.cpp
   kit/TovuHairline.cpp
   kit/TovuInputFrame.cpp
   kit/TovuKitAnimator.cpp
   kit/TovuKitAnimator.h
-  kit/TovuKitPainting.cpp
-  kit/TovuKitPainting.h
   kit/TovuLabels.cpp
   kit/TovuPlainLabel.cpp
   kit/TovuPlainLabel.h
   kit/TovuScrollStrip.cpp
   kit/TovuShake.cpp
-  kit/TovuSymbol.cpp
   kit/TovuSymbolButton.cpp
   kit/TovuTextArea.cpp
-  kit/TovuTextField.cpp
-  kit/TovuTextFit.cpp
-  kit/TovuTextMetrics.cpp
-  kit/TovuTextMetrics.h)
+  kit/TovuTextField.cpp)
 list(APPEND ui_headers
   kit/TovuBox.h
-  kit/TovuBoxLook.h
   kit/TovuButton.h
   kit/TovuCaptionRow.h
   kit/TovuChevron.h
-  kit/TovuEmoji.h
   kit/TovuEqualWidthLayout.h
   kit/TovuFitLabel.h
   kit/TovuHairline.h
@@ -41,8 +31,14 @@ list(APPEND ui_headers
   kit/TovuLabels.h
   kit/TovuScrollStrip.h
   kit/TovuShake.h
-  kit/TovuSymbol.h
   kit/TovuSymbolButton.h
   kit/TovuTextArea.h
-  kit/TovuTextField.h
+  kit/TovuTextField.h)
+
+# Where the symbols, emoji and box looks were before they moved to the graphics
+# layer; kept for code written against the old location.
+list(APPEND ui_headers
+  kit/TovuBoxLook.h
+  kit/TovuEmoji.h
+  kit/TovuSymbol.h
   kit/TovuTextFit.h)

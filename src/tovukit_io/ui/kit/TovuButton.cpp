@@ -1,14 +1,14 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 
-#include <tovukit_io/ui/kit/TovuEmoji.h>
-#include <tovukit_io/ui/kit/TovuSymbol.h>
+#include <tovukit_io/graphics/TovuEmoji.h>
+#include <tovukit_io/graphics/TovuPainting.h>
+#include <tovukit_io/graphics/TovuSymbol.h>
+#include <tovukit_io/graphics/TovuTextMetrics.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include "TovuButtonScaleEffect.h"
 #include "TovuKitAnimator.h"
-#include "TovuKitPainting.h"
-#include "TovuTextMetrics.h"
 
 #include <QEvent>
 #include <QFocusEvent>
@@ -400,8 +400,8 @@ void TovuButton::paintContent(QPainter &painter)
 
     // Keyboard users need to see where they are; a pointer press shows no ring.
     if (hasFocus() && m_keyboardFocus) {
-        const qreal radius = TovuKitPainting::effectiveRadius(bounds.size(), m_look.cornerRadius);
-        painter.strokePath(TovuKitPainting::roundedRect(bounds.adjusted(1, 1, -1, -1), std::max<qreal>(0, radius - 1)),
+        const qreal radius = TovuPainting::effectiveRadius(bounds.size(), m_look.cornerRadius);
+        painter.strokePath(TovuPainting::roundedRect(bounds.adjusted(1, 1, -1, -1), std::max<qreal>(0, radius - 1)),
                            QPen(accessoryColor(), 2));
     }
 }
@@ -435,7 +435,7 @@ void TovuButton::paintAccessory(QPainter &painter, const QRectF &bounds)
     const qreal ringWidth = std::min<qreal>(2, side / 4);
 
     if (m_accessory == Accessory::radio) {
-        TovuKitPainting::paintBox(painter, mark, fill, ring, ringWidth, side / 2);
+        TovuPainting::paintBox(painter, mark, fill, ring, ringWidth, side / 2);
         if (checked) {
             // A 10-point dot, smaller in small circles.
             const qreal dot = std::min<qreal>(10, side * 0.56);
@@ -444,7 +444,7 @@ void TovuButton::paintAccessory(QPainter &painter, const QRectF &bounds)
             painter.drawEllipse(mark.center(), dot / 2, dot / 2);
         }
     } else {
-        TovuKitPainting::paintBox(painter, mark, fill, ring, ringWidth, side * 6 / 22);
+        TovuPainting::paintBox(painter, mark, fill, ring, ringWidth, side * 6 / 22);
         if (checked) {
             const qreal check = side * 13 / 22;
             TovuSymbol::paint(painter, QRectF(mark.center() - QPointF(check / 2, check / 2), QSizeF(check, check)),

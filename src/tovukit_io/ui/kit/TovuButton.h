@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tovukit_io/ui/kit/TovuBoxLook.h>
+#include <tovukit_io/graphics/TovuBoxLook.h>
 
 #include <QAbstractButton>
 #include <QColor>

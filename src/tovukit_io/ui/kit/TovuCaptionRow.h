@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tovukit_io/ui/kit/TovuTextFit.h>
+#include <tovukit_io/graphics/TovuTextFit.h>
 
 #include <QColor>
 #include <QFont>

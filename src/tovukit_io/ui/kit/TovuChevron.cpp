@@ -1,6 +1,6 @@
 #include <tovukit_io/ui/kit/TovuChevron.h>
 
-#include <tovukit_io/ui/kit/TovuSymbol.h>
+#include <tovukit_io/graphics/TovuSymbol.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include "TovuKitAnimator.h"

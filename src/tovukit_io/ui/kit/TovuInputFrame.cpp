@@ -1,11 +1,10 @@
 #include <tovukit_io/ui/kit/TovuInputFrame.h>
 
+#include <tovukit_io/graphics/TovuBoxLook.h>
+#include <tovukit_io/graphics/TovuPainting.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include "TovuKitAnimator.h"
-#include "TovuKitPainting.h"
-
-#include <tovukit_io/ui/kit/TovuBoxLook.h>
 
 #include <QEvent>
 #include <QFocusEvent>
@@ -174,8 +173,8 @@ bool TovuInputFrame::frameFocusOut(const QFocusEvent *event)
 
 void TovuInputFrame::paintFrame(QPainter &painter, const QRectF &rect) const
 {
-    TovuKitPainting::paintBox(painter, rect, d->look.resolvedBackground(), currentBorderColor(), currentBorderWidth(),
-                              d->look.cornerRadius);
+    TovuPainting::paintBox(painter, rect, d->look.resolvedBackground(), currentBorderColor(), currentBorderWidth(),
+                           d->look.cornerRadius);
 }
 
 void TovuInputFrame::applyFramePalette()

@@ -1,4 +1,4 @@
-#include "TovuKitPainting.h"
+#include <tovukit_io/graphics/TovuPainting.h>
 
 #include <QPaintDevice>
 #include <QPainter>
@@ -12,16 +12,14 @@
 #include <cmath>
 #include <functional>
 
-namespace TovuKitPainting {
-
-qreal effectiveRadius(const QSizeF &size, qreal radius)
+qreal TovuPainting::effectiveRadius(const QSizeF &size, qreal radius)
 {
     if (!(radius > 0))
         return 0;
     return std::min(radius, std::min(size.width(), size.height()) / 2);
 }
 
-QPainterPath roundedRect(const QRectF &rect, qreal radius)
+QPainterPath TovuPainting::roundedRect(const QRectF &rect, qreal radius)
 {
     QPainterPath path;
     const qreal r = effectiveRadius(rect.size(), radius);
@@ -32,7 +30,7 @@ QPainterPath roundedRect(const QRectF &rect, qreal radius)
     return path;
 }
 
-qreal pixelRatio(const QPainter &painter)
+qreal TovuPainting::pixelRatio(const QPainter &painter)
 {
     if (!painter.device() || painter.worldTransform().type() > QTransform::TxTranslate)
         return 0;
@@ -47,15 +45,16 @@ namespace {
 void paintBoxDirectly(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border,
                       qreal borderWidth, qreal radius)
 {
-    const qreal r = effectiveRadius(rect.size(), radius);
+    const qreal r = TovuPainting::effectiveRadius(rect.size(), radius);
     if (background.alpha() > 0)
-        painter.fillPath(roundedRect(rect, r), background);
+        painter.fillPath(TovuPainting::roundedRect(rect, r), background);
     const qreal width = std::min(borderWidth, std::min(rect.width(), rect.height()) / 2);
     if (width > 0 && border.alpha() > 0) {
         const qreal half = width / 2;
         QPen pen(border, width);
         pen.setJoinStyle(Qt::MiterJoin);
-        painter.strokePath(roundedRect(rect.adjusted(half, half, -half, -half), std::max<qreal>(0, r - half)), pen);
+        painter.strokePath(
+            TovuPainting::roundedRect(rect.adjusted(half, half, -half, -half), std::max<qreal>(0, r - half)), pen);
     }
 }
 
@@ -73,7 +72,7 @@ bool isWhole(qreal value)
 // resampled, and drawing the shape itself is sharper.
 bool canUseCache(const QPainter &painter, const QRectF &rect)
 {
-    const qreal dpr = pixelRatio(painter);
+    const qreal dpr = TovuPainting::pixelRatio(painter);
     if (dpr <= 0 || rect.width() > largestCachedSide || rect.height() > largestCachedSide)
         return false;
     const QPointF origin = painter.worldTransform().map(rect.topLeft()) * dpr;
@@ -95,7 +94,7 @@ QString boxKey(const QColor &background, const QColor &border, qreal borderWidth
 
 } // namespace
 
-QRectF pixelAligned(const QPainter &painter, const QPointF &centre, qreal side)
+QRectF TovuPainting::pixelAligned(const QPainter &painter, const QPointF &centre, qreal side)
 {
     const QRectF square(centre - QPointF(side / 2, side / 2), QSizeF(side, side));
     const qreal dpr = pixelRatio(painter);
@@ -110,8 +109,8 @@ QRectF pixelAligned(const QPainter &painter, const QPointF &centre, qreal side)
     return QRectF(origin, QSizeF(snappedSide, snappedSide));
 }
 
-void paintCached(QPainter &painter, const QRectF &rect, const QString &key,
-                 const std::function<void(QPainter &, const QRectF &)> &paint)
+void TovuPainting::paintCached(QPainter &painter, const QRectF &rect, const QString &key,
+                               const std::function<void(QPainter &, const QRectF &)> &paint)
 {
     if (rect.isEmpty())
         return;
@@ -135,8 +134,8 @@ void paintCached(QPainter &painter, const QRectF &rect, const QString &key,
     painter.drawPixmap(rect.topLeft(), picture);
 }
 
-void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border, qreal borderWidth,
-              qreal radius)
+void TovuPainting::paintBox(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border,
+                            qreal borderWidth, qreal radius)
 {
     // Symbol and face buttons have no box at all: not even an empty picture to blend.
     if (background.alpha() == 0 && (border.alpha() == 0 || !(borderWidth > 0)))
@@ -147,7 +146,7 @@ void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, c
                 });
 }
 
-QRegion roundedRegion(const QSize &size, qreal radius)
+QRegion TovuPainting::roundedRegion(const QSize &size, qreal radius)
 {
     const qreal r = effectiveRadius(QSizeF(size), radius);
     if (size.isEmpty())
@@ -173,4 +172,24 @@ QRegion roundedRegion(const QSize &size, qreal radius)
     return region;
 }
 
-} // namespace TovuKitPainting
+QRect TovuPainting::alignedRect(Qt::LayoutDirection direction, Qt::Alignment alignment, const QSize &size,
+                                const QRect &rect)
+{
+    // Leading and trailing become left and right; whole-pixel halves, as the widget styles place things.
+    if (!(alignment & Qt::AlignHorizontal_Mask))
+        alignment |= Qt::AlignLeft;
+    if (!(alignment & Qt::AlignAbsolute) && direction == Qt::RightToLeft
+        && (alignment & (Qt::AlignLeft | Qt::AlignRight)))
+        alignment ^= (Qt::AlignLeft | Qt::AlignRight);
+    int x = rect.x();
+    int y = rect.y();
+    if ((alignment & Qt::AlignVCenter) == Qt::AlignVCenter)
+        y += rect.height() / 2 - size.height() / 2;
+    else if ((alignment & Qt::AlignBottom) == Qt::AlignBottom)
+        y += rect.height() - size.height();
+    if ((alignment & Qt::AlignRight) == Qt::AlignRight)
+        x += rect.width() - size.width();
+    else if ((alignment & Qt::AlignHCenter) == Qt::AlignHCenter)
+        x += rect.width() / 2 - size.width() / 2;
+    return QRect(QPoint(x, y), size);
+}

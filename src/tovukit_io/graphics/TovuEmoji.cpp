@@ -1,7 +1,7 @@
-#include <tovukit_io/ui/kit/TovuEmoji.h>
+#include <tovukit_io/graphics/TovuEmoji.h>
 
-#include "TovuKitPainting.h"
-#include "TovuTextMetrics.h"
+#include <tovukit_io/graphics/TovuPainting.h>
+#include <tovukit_io/graphics/TovuTextMetrics.h>
 
 #include <QGuiApplication>
 #include <QPaintDevice>
@@ -9,7 +9,6 @@
 #include <QPixmap>
 #include <QPixmapCache>
 #include <QStringList>
-#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -48,7 +47,7 @@ void TovuEmoji::drawText(QPainter &painter, const QRectF &rect, int flags, const
                          const QColor &color)
 {
     // Scaled or rotated, the picture would be resampled: draw the glyphs themselves.
-    const qreal dpr = TovuKitPainting::pixelRatio(painter);
+    const qreal dpr = TovuPainting::pixelRatio(painter);
     if (dpr <= 0) {
         painter.setFont(font);
         painter.setPen(color);
@@ -71,6 +70,7 @@ void TovuEmoji::drawText(QPainter &painter, const QRectF &rect, int flags, const
         QPixmapCache::insert(key, picture);
     }
     const auto alignment = Qt::Alignment(flags) & (Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask);
-    const QRect target = QStyle::alignedRect(painter.layoutDirection(), alignment, size.toSize(), rect.toAlignedRect());
+    const QRect target
+        = TovuPainting::alignedRect(painter.layoutDirection(), alignment, size.toSize(), rect.toAlignedRect());
     painter.drawPixmap(QRectF(target.topLeft(), size), picture, QRectF(picture.rect()));
 }

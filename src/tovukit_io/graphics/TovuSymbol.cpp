@@ -1,6 +1,6 @@
-#include <tovukit_io/ui/kit/TovuSymbol.h>
+#include <tovukit_io/graphics/TovuSymbol.h>
 
-#include "TovuKitPainting.h"
+#include <tovukit_io/graphics/TovuPainting.h>
 
 #include <QColor>
 #include <QHash>
@@ -177,10 +177,10 @@ void TovuSymbol::paint(QPainter &painter, const QRectF &rect, QStringView name, 
     if (!isKnown(name) || !rect.isValid() || !color.isValid())
         return;
     const QPainterPath &path = symbolPath(name, weight);
-    const QRectF square = TovuKitPainting::pixelAligned(painter, rect.center(), std::min(rect.width(), rect.height()));
+    const QRectF square = TovuPainting::pixelAligned(painter, rect.center(), std::min(rect.width(), rect.height()));
     const QString key
         = QStringLiteral("tovu-symbol/%1/%2/%3").arg(name).arg(static_cast<int>(weight)).arg(color.rgba(), 0, 16);
-    TovuKitPainting::paintCached(painter, square, key, [&path, &color](QPainter &target, const QRectF &area) {
+    TovuPainting::paintCached(painter, square, key, [&path, &color](QPainter &target, const QRectF &area) {
         target.save();
         target.setRenderHint(QPainter::Antialiasing);
         target.translate(area.topLeft());

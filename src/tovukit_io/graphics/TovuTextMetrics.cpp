@@ -1,11 +1,9 @@
-#include "TovuTextMetrics.h"
+#include <tovukit_io/graphics/TovuTextMetrics.h>
 
 #include <QFontMetrics>
 #include <QFontMetricsF>
 #include <QHash>
 #include <QPaintDevice>
-
-namespace TovuTextMetrics {
 
 namespace {
 
@@ -56,14 +54,14 @@ Rect remembered(const QFont &font, const QPaintDevice &device, const Rect &rect,
 
 } // namespace
 
-QRect boundingRect(const QFont &font, const QPaintDevice &device, const QRect &rect, int flags, const QString &text)
+QRect TovuTextMetrics::boundingRect(const QFont &font, const QPaintDevice &device, const QRect &rect, int flags,
+                                    const QString &text)
 {
     return remembered<QFontMetrics>(font, device, rect, flags, text);
 }
 
-QRectF boundingRect(const QFont &font, const QPaintDevice &device, const QRectF &rect, int flags, const QString &text)
+QRectF TovuTextMetrics::boundingRect(const QFont &font, const QPaintDevice &device, const QRectF &rect, int flags,
+                                     const QString &text)
 {
     return remembered<QFontMetricsF>(font, device, rect, flags, text);
 }
-
-} // namespace TovuTextMetrics

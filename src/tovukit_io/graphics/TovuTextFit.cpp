@@ -1,6 +1,6 @@
-#include <tovukit_io/ui/kit/TovuTextFit.h>
+#include <tovukit_io/graphics/TovuTextFit.h>
 
-#include "TovuTextMetrics.h"
+#include <tovukit_io/graphics/TovuTextMetrics.h>
 
 #include <QFontMetrics>
 

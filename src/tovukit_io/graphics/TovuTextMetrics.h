@@ -1,7 +1,5 @@
 #pragma once
 
-// Text measurements the kit repeats, remembered; not installed.
-
 #include <QFont>
 #include <QRect>
 #include <QRectF>
@@ -13,10 +11,14 @@ class QPaintDevice;
 /// twin say, measured once per font, resolution, rectangle, flags and text. A page says the
 /// same few things many times (eleven scores in every row, the same faces and column
 /// labels in every row), shaping is the dear part of laying it out, and a colour emoji's
-/// bitmap is decoded again for every measurement. GUI thread only, like the widgets.
-namespace TovuTextMetrics {
+/// bitmap is decoded again for every measurement. GUI thread only.
+class TovuTextMetrics
+{
+public:
+    static QRect boundingRect(const QFont &font, const QPaintDevice &device, const QRect &rect, int flags,
+                              const QString &text);
+    static QRectF boundingRect(const QFont &font, const QPaintDevice &device, const QRectF &rect, int flags,
+                               const QString &text);
 
-QRect boundingRect(const QFont &font, const QPaintDevice &device, const QRect &rect, int flags, const QString &text);
-QRectF boundingRect(const QFont &font, const QPaintDevice &device, const QRectF &rect, int flags, const QString &text);
-
-} // namespace TovuTextMetrics
+    TovuTextMetrics() = delete;
+};

@@ -1,8 +1,7 @@
-#include <tovukit_io/ui/kit/TovuBoxLook.h>
+#include <tovukit_io/graphics/TovuBoxLook.h>
 
+#include <tovukit_io/graphics/TovuPainting.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
-
-#include "TovuKitPainting.h"
 
 #include <algorithm>
 #include <cmath>
@@ -57,5 +56,5 @@ bool TovuBoxLook::setCornerRadius(qreal radius)
 
 void TovuBoxLook::paint(QPainter &painter, const QRectF &rect) const
 {
-    TovuKitPainting::paintBox(painter, rect, resolvedBackground(), resolvedBorder(), borderWidth, cornerRadius);
+    TovuPainting::paintBox(painter, rect, resolvedBackground(), resolvedBorder(), borderWidth, cornerRadius);
 }
