@@ -40,17 +40,21 @@
 
 #include <tovukit_io/viewmodel/TovuAppTheme.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSBands.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <tovukit_io/graphics/TovuBoxLook.h>

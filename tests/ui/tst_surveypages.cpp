@@ -1,5 +1,7 @@
-// The intro and thank-you pages: texts and their defaults, the start button and
-// its accent, the thank-you check mark, entrance and redirect.
+// The intro and thank-you pages show what their view models say (the models' own
+// tests hold the defaults and the redirect's rules): texts as plain text, the start
+// button and its accent, the thank-you check mark, its entrance, and the redirect
+// scheduled when the page is built.
 
 #include <tovukit_io/platform/TovuUrlOpener.h>
 #include <tovukit_io/ui/TovuIntroView.h>
@@ -7,12 +9,16 @@
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
 
 #include <QLabel>
 #include <QLayout>
 #include <QTest>
+
+#include "TovuThankYouTesting.h"
 
 #include <gtest/gtest.h>
 
@@ -28,14 +34,7 @@ protected:
     void TearDown() override { TovuMotion::setDurationScale(1); }
 };
 
-TovuQuestion thankYouQuestion(std::optional<std::string> subtitle, std::optional<std::string> redirect)
-{
-    return TovuQuestion{.id = "thank_you_auto",
-                        .type = TovuQuestionType::thankYou,
-                        .title = "Thanks a lot!",
-                        .subtitle = std::move(subtitle),
-                        .redirectURL = std::move(redirect)};
-}
+using TovuThankYouTesting::thankYouQuestion;
 
 // How wide the check mark is painted, in logical pixels: the span of the pixels
 // clearly greener than the white panel (its faint disc does not count).
@@ -57,12 +56,12 @@ qreal checkMarkWidth(const QImage &image)
 
 } // namespace
 
-TEST_F(SurveyPages, IntroShowsItsTextAndStarts)
+TEST_F(SurveyPages, IntroShowsItsModelAndTapsStart)
 {
     TovuIntroView intro(TovuSurveyPage{.enabled = true, .content = "<b>Two minutes</b>", .buttonText = "Go"});
-    EXPECT_EQ(intro.contentLabel()->text(), QStringLiteral("<b>Two minutes</b>"));
+    EXPECT_EQ(intro.contentLabel()->text(), intro.viewModel()->content());
     EXPECT_EQ(intro.contentLabel()->textFormat(), Qt::PlainText);
-    EXPECT_EQ(intro.startButton()->text(), QStringLiteral("Go"));
+    EXPECT_EQ(intro.startButton()->text(), intro.viewModel()->buttonTitle());
     EXPECT_EQ(intro.startButton()->titleColor(), QColor(Qt::white));
     EXPECT_EQ(intro.startButton()->cornerRadius(), 12);
     EXPECT_EQ(intro.startButton()->height(), 50);
@@ -73,54 +72,43 @@ TEST_F(SurveyPages, IntroShowsItsTextAndStarts)
         ++starts;
     };
     QTest::mouseClick(intro.startButton(), Qt::LeftButton);
-    QTest::mouseClick(intro.startButton(), Qt::LeftButton);
+    intro.viewModel()->start(); // a start the model reports goes to the page's owner too
     EXPECT_EQ(starts, 2);
 }
 
-TEST_F(SurveyPages, IntroDefaults)
+TEST_F(SurveyPages, IntroWithoutTextShowsOnlyTheButton)
 {
     TovuIntroView intro(TovuSurveyPage{.enabled = true});
-    EXPECT_EQ(intro.startButton()->text(), QStringLiteral("Let's get started"));
     intro.resize(360, 200);
     intro.show();
-    EXPECT_FALSE(intro.contentLabel()->isVisible()); // only the button
+    EXPECT_FALSE(intro.contentLabel()->isVisible());
     EXPECT_TRUE(intro.startButton()->isVisible());
+    EXPECT_EQ(intro.startButton()->text(), intro.viewModel()->buttonTitle());
 }
 
-TEST_F(SurveyPages, ThankYouTextsAndDefaults)
+TEST_F(SurveyPages, ThankYouShowsItsModel)
 {
-    TovuThankYouView plain(std::nullopt);
-    EXPECT_EQ(plain.titleLabel()->text(), QStringLiteral("Thank you!"));
-    EXPECT_EQ(plain.subtitleLabel()->text(), QStringLiteral("Your feedback helps us improve."));
-    EXPECT_EQ(plain.titleLabel()->textFormat(), Qt::PlainText);
-    EXPECT_EQ(plain.iconContainer()->size(), QSize(88, 88));
-    EXPECT_EQ(plain.iconContainer()->cornerRadius(), 44);
-    EXPECT_EQ(plain.iconContainer()->backgroundColor(), QColor::fromRgbF(0.18f, 0.8f, 0.44f, 0.12f));
-    const QPixmap icon = plain.iconView()->pixmap();
-    EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(plain.iconView()->size())); // fitted to its view
-    EXPECT_GT(qAlpha(icon.toImage().pixel(1, icon.height() / 2)), 0); // the symbol reaches its edge
-    EXPECT_EQ(plain.entranceProgress(), 1.0); // motion off: in place at once
-
-    TovuThankYouView withSubtitle(thankYouQuestion("See you soon", std::nullopt));
-    EXPECT_EQ(withSubtitle.titleLabel()->text(), QStringLiteral("Thanks a lot!"));
-    EXPECT_EQ(withSubtitle.subtitleLabel()->text(), QStringLiteral("See you soon"));
-
-    TovuThankYouView withoutSubtitle(thankYouQuestion(std::nullopt, std::nullopt));
-    EXPECT_EQ(withoutSubtitle.subtitleLabel()->text(), QStringLiteral("Your feedback helps us improve."));
+    TovuThankYouView page(thankYouQuestion("<i>See you soon</i>", std::nullopt));
+    const TovuThankYouViewModel &model = *page.viewModel();
+    EXPECT_EQ(page.titleLabel()->text(), model.title());
+    EXPECT_EQ(page.subtitleLabel()->text(), QStringLiteral("<i>See you soon</i>"));
+    EXPECT_EQ(page.titleLabel()->textFormat(), Qt::PlainText);
+    EXPECT_EQ(page.subtitleLabel()->textFormat(), Qt::PlainText);
+    EXPECT_EQ(page.iconContainer()->size(), QSize(88, 88));
+    EXPECT_EQ(page.iconContainer()->cornerRadius(), 44);
+    EXPECT_EQ(page.iconContainer()->backgroundColor(), model.discColor());
+    EXPECT_EQ(page.iconView()->accessibleName(), model.iconAccessibleName());
+    const QImage icon = page.iconView()->pixmap().toImage();
+    EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(page.iconView()->size())); // fitted to its view
+    EXPECT_GT(icon.pixelColor(1, icon.height() / 2).alpha(), 0); // the symbol reaches its edge
+    EXPECT_EQ(page.entranceProgress(), 1.0); // motion off: in place at once
 }
 
-TEST_F(SurveyPages, ThankYouRedirectsOnlyToWebAddressesAfterTheDelay)
+TEST_F(SurveyPages, ThankYouSchedulesItsRedirectWhenBuilt)
 {
     TovuRecordingUrlOpener opener;
-    {
-        TovuThankYouView redirecting(thankYouQuestion(std::nullopt, "https://shop.example.com/thanks"), nullptr,
-                                     &opener);
-        TovuThankYouView invalid(thankYouQuestion(std::nullopt, "javascript:alert(1)"), nullptr, &opener);
-        TovuThankYouView notAnAddress(thankYouQuestion(std::nullopt, "not a url"), nullptr, &opener);
-        QTest::qWait(TovuThankYouView::redirectDelayMs - 500);
-        EXPECT_TRUE(opener.openedUrls().empty()) << "too early";
-    } // the pages are gone: the redirect still happens
-    QTest::qWait(800);
+    delete new TovuThankYouView(thankYouQuestion(std::nullopt, "https://shop.example.com/thanks"), nullptr, &opener);
+    QTest::qWait(TovuThankYouView::redirectDelayMs + 300); // the page is gone: the redirect still happens
     ASSERT_EQ(opener.openedUrls().size(), 1u);
     EXPECT_EQ(opener.openedUrls().front(), QUrl(QStringLiteral("https://shop.example.com/thanks")));
 }

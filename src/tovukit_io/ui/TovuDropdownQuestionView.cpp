@@ -7,12 +7,14 @@
 #include <tovukit_io/ui/kit/TovuChevron.h>
 #include <tovukit_io/ui/kit/TovuHairline.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include <QLabel>
 #include <QVBoxLayout>
 
 using Parts = TovuQuestionParts;
+using Metrics = TovuPageMetrics;
 
 TovuDropdownQuestionView::TovuDropdownQuestionView(TovuQuestion question, QWidget *parent)
     : TovuDropdownQuestionView(new TovuDropdownQuestionViewModel(std::move(question)), parent)
@@ -26,7 +28,7 @@ TovuDropdownQuestionView::TovuDropdownQuestionView(TovuDropdownQuestionViewModel
     : TovuQuestionView(model, parent)
     , m_model(model)
 {
-    QVBoxLayout *outer = Parts::pageStack(this, 12);
+    QVBoxLayout *outer = Parts::pageStack(this, qRound(Metrics::dropdownSpacing));
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
     buildSelector();
@@ -46,12 +48,13 @@ TovuDropdownQuestionView::~TovuDropdownQuestionView() = default;
 void TovuDropdownQuestionView::buildSelector()
 {
     m_dropdownButton = new TovuButton(m_model->selectorTitle(), this);
-    m_dropdownButton->setFont(Parts::font(15, QFont::Normal));
+    m_dropdownButton->setFont(Parts::font(Metrics::selectorFontSize, QFont::Normal));
     m_dropdownButton->setTitleAlignment(Qt::AlignLeading);
-    m_dropdownButton->setContentInsets(QMargins(16, 14, 48, 14));
-    m_dropdownButton->setCornerRadius(12);
-    m_dropdownButton->setBorderWidth(1.5);
-    m_dropdownButton->setFixedHeight(52);
+    m_dropdownButton->setContentInsets(
+        Parts::insets(Metrics::selectorInsetLeading, Metrics::selectorInsetVertical, Metrics::selectorInsetTrailing));
+    m_dropdownButton->setCornerRadius(Metrics::selectorCornerRadius);
+    m_dropdownButton->setBorderWidth(Metrics::selectorBorderWidth);
+    m_dropdownButton->setFixedHeight(qRound(Metrics::selectorHeight));
     connect(m_dropdownButton, &TovuButton::clicked, this, &TovuDropdownQuestionView::toggleDropdown);
 
     m_chevron = new TovuChevron(m_dropdownButton);
@@ -61,33 +64,42 @@ void TovuDropdownQuestionView::buildSelector()
 void TovuDropdownQuestionView::buildList()
 {
     m_optionsContainer = new TovuBox(this);
-    m_optionsContainer->setCornerRadius(12);
-    m_optionsContainer->setBorderWidth(1.5);
+    m_optionsContainer->setCornerRadius(Metrics::listCornerRadius);
+    m_optionsContainer->setBorderWidth(Metrics::listBorderWidth);
     // A soft shadow under the open list; the panel does not clip, so the shadow shows.
     m_optionsContainer->setHasShadow(true);
-    m_optionsContainer->setShadowColor(QColor::fromRgbF(0, 0, 0, 0.06f));
-    m_optionsContainer->setShadowOffset(QPointF(0, 4));
-    m_optionsContainer->setShadowBlurRadius(8);
+    m_optionsContainer->setShadowColor(QColor::fromRgbF(0, 0, 0, static_cast<float>(Metrics::listShadowOpacity)));
+    m_optionsContainer->setShadowOffset(QPointF(0, Metrics::listShadowOffsetY));
+    m_optionsContainer->setShadowBlurRadius(Metrics::listShadowRadius);
     m_optionsContainer->hide();
 
     m_optionsStack = Parts::pageStack(m_optionsContainer, 0);
     // Inside the border, so separators and a tinted choice never paint over it.
-    m_optionsStack->setContentsMargins(2, 2, 2, 2);
+    const int inset = qRound(Metrics::listInset);
+    m_optionsStack->setContentsMargins(inset, inset, inset, inset);
     const QStringList texts = m_model->optionTexts();
     for (int index = 0; index < texts.size(); ++index) {
         if (index > 0)
-            m_optionsStack->addWidget(new TovuHairline(m_optionsContainer));
+            m_optionsStack->addWidget(separator());
         auto *button = new TovuButton(texts[index], m_optionsContainer);
-        button->setFont(Parts::font(15, QFont::Normal));
+        button->setFont(Parts::font(Metrics::listRowFontSize, QFont::Normal));
         button->setTitleAlignment(Qt::AlignLeading);
-        button->setContentInsets(QMargins(16, 14, 16, 14));
-        button->setFixedHeight(50);
+        button->setContentInsets(
+            Parts::insets(Metrics::listRowInset, Metrics::listRowInsetVertical, Metrics::listRowInset));
+        button->setFixedHeight(qRound(Metrics::listRowHeight));
         button->setTag(index);
         connect(button, &TovuButton::clicked, this, [this, button] { optionTapped(button); });
         m_optionsStack->addWidget(button);
         m_optionButtons.append(button);
         m_optionMap.emplace(button, m_model->question()->options->at(static_cast<std::size_t>(index)));
     }
+}
+
+TovuHairline *TovuDropdownQuestionView::separator()
+{
+    auto *line = new TovuHairline(m_optionsContainer);
+    line->setThickness(Metrics::separatorHeight);
+    return line;
 }
 
 const std::optional<TovuQuestion> &TovuDropdownQuestionView::question() const
@@ -143,7 +155,7 @@ void TovuDropdownQuestionView::restyle()
 
     for (TovuButton *button : std::as_const(m_optionButtons)) {
         const bool chosen = button->tag() == m_model->selectedIndex();
-        button->setBackgroundColor(chosen ? Parts::withAlpha(primary, 0.08) : QColor(Qt::transparent));
+        button->setBackgroundColor(chosen ? Parts::chosenFill(primary) : QColor(Qt::transparent));
         button->setTitleColor(chosen ? primary : QColor());
     }
 }

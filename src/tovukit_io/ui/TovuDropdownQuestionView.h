@@ -12,6 +12,7 @@
 class QVBoxLayout;
 class TovuBox;
 class TovuChevron;
+class TovuHairline;
 
 /// A dropdown question: a selector that opens an in-place list of the options,
 /// pushing what follows down. Choosing closes the list, shows the choice in the
@@ -61,6 +62,7 @@ private:
     TovuDropdownQuestionView(TovuDropdownQuestionViewModel *model, QWidget *parent);
     void buildSelector();
     void buildList();
+    TovuHairline *separator();
     void showExpansion();
 
     TovuDropdownQuestionViewModel *m_model = nullptr;

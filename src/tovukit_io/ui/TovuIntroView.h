@@ -8,9 +8,11 @@
 
 class QLabel;
 class TovuButton;
+class TovuIntroViewModel;
 
-/// The survey's intro page: its text and a start button. The owner decides
-/// what starting means (`onStart`); the page never moves on by itself.
+/// The survey's intro page: its text and a start button, as its view model
+/// (`viewModel()`) gives them. The owner decides what starting means
+/// (`onStart`); the page never moves on by itself.
 ///
 /// Colours are resolved again whenever the palette changes; the start button's
 /// default accent is the Highlight the host window set, inherited once the page
@@ -21,10 +23,12 @@ class TovuIntroView : public QWidget
 
 public:
     explicit TovuIntroView(TovuSurveyPage page, QWidget *parent = nullptr);
+    ~TovuIntroView() override;
 
     QLabel *contentLabel() const { return m_contentLabel; }
     TovuButton *startButton() const { return m_startButton; }
-    const TovuSurveyPage &page() const { return m_page; }
+    const TovuSurveyPage &page() const;
+    TovuIntroViewModel *viewModel() const { return m_model; }
 
     /// Told on every tap of the start button.
     std::function<void()> onStart;
@@ -34,9 +38,8 @@ protected:
 
 private:
     void restyle();
-    void startTapped();
 
-    TovuSurveyPage m_page;
+    TovuIntroViewModel *m_model = nullptr;
     QLabel *m_contentLabel = nullptr;
     TovuButton *m_startButton = nullptr;
 };

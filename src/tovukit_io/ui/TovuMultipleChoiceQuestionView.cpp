@@ -4,6 +4,7 @@
 
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -21,7 +22,7 @@ TovuMultipleChoiceQuestionView::TovuMultipleChoiceQuestionView(TovuMultipleChoic
     : TovuQuestionView(model, parent)
     , m_model(model)
 {
-    QVBoxLayout *outer = Parts::pageStack(this, 14);
+    QVBoxLayout *outer = Parts::pageStack(this, qRound(TovuPageMetrics::multipleChoiceSpacing));
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
     m_hintLabel = Parts::hintLabel(m_model->hint(), this);
@@ -72,7 +73,7 @@ void TovuMultipleChoiceQuestionView::optionTapped(TovuButton *row)
     m_model->toggleOption(row->objectName());
     // Only a tick bounces; an untick just lets go.
     if (m_model->isSelected(row->objectName()))
-        row->tapScale(0.97, 0.08);
+        row->tapScale(TovuPageMetrics::pressScale, TovuPageMetrics::pressSeconds);
 }
 
 void TovuMultipleChoiceQuestionView::restyle()

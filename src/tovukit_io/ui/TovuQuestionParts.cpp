@@ -2,6 +2,7 @@
 
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
@@ -9,6 +10,8 @@
 #include <QVBoxLayout>
 
 namespace {
+
+using Metrics = TovuPageMetrics;
 
 QColor platform(TovuPlatformColors::Role role)
 {
@@ -44,23 +47,33 @@ QColor TovuQuestionParts::withAlpha(QColor color, qreal alpha)
     return color;
 }
 
+QColor TovuQuestionParts::chosenFill(const QColor &accent)
+{
+    return withAlpha(accent, Metrics::chosenFillAlpha);
+}
+
+QMargins TovuQuestionParts::insets(qreal leading, qreal vertical, qreal trailing)
+{
+    return QMargins(qRound(leading), qRound(vertical), qRound(trailing), qRound(vertical));
+}
+
 QLabel *TovuQuestionParts::titleLabel(const QString &text, QWidget *parent)
 {
-    QLabel *label = TovuLabels::plain(text, font(18, QFont::Bold), QColor(), parent);
+    QLabel *label = TovuLabels::plain(text, font(Metrics::titleFontSize, QFont::Bold), QColor(), parent);
     restyleTitle(label);
     return label;
 }
 
 QLabel *TovuQuestionParts::hintLabel(const QString &text, QWidget *parent)
 {
-    QLabel *label = TovuLabels::plain(text, font(12, QFont::Normal), QColor(), parent);
+    QLabel *label = TovuLabels::plain(text, font(Metrics::hintFontSize, QFont::Normal), QColor(), parent);
     restyleHint(label);
     return label;
 }
 
 QLabel *TovuQuestionParts::validationLabel(const QString &text, QWidget *parent)
 {
-    QLabel *label = TovuLabels::plain(text, font(13, QFont::Normal), QColor(), parent);
+    QLabel *label = TovuLabels::plain(text, font(Metrics::validationFontSize, QFont::Normal), QColor(), parent);
     restyleValidation(label);
     label->hide();
     return label;
@@ -69,31 +82,32 @@ QLabel *TovuQuestionParts::validationLabel(const QString &text, QWidget *parent)
 TovuButton *TovuQuestionParts::actionButton(const QString &title, QWidget *parent)
 {
     auto *button = new TovuButton(title, parent);
-    button->setFont(font(16, QFont::DemiBold));
+    button->setFont(font(Metrics::actionFontSize, QFont::DemiBold));
     button->setTitleColor(Qt::white);
-    button->setCornerRadius(12);
-    button->setFixedHeight(50);
+    button->setCornerRadius(Metrics::actionCornerRadius);
+    button->setFixedHeight(qRound(Metrics::actionHeight));
     return button;
 }
 
 TovuButton *TovuQuestionParts::optionRow(const QString &text, TovuButton::Accessory accessory, QWidget *parent)
 {
     auto *row = new TovuButton(text, parent);
-    row->setFont(font(15, QFont::Medium));
+    row->setFont(font(Metrics::optionRowFontSize, QFont::Medium));
     row->setAccessory(accessory);
     row->setCheckable(true);
     row->setTitleAlignment(Qt::AlignLeading);
-    row->setContentInsets(QMargins(48, 14, 16, 14));
-    row->setCornerRadius(12);
-    row->setBorderWidth(1.5);
-    row->setFixedHeight(52);
+    row->setContentInsets(
+        insets(Metrics::optionRowInsetLeading, Metrics::optionRowInsetVertical, Metrics::optionRowInsetTrailing));
+    row->setCornerRadius(Metrics::optionRowCornerRadius);
+    row->setBorderWidth(Metrics::optionRowBorderWidth);
+    row->setFixedHeight(qRound(Metrics::optionRowHeight));
     return row;
 }
 
 QVBoxLayout *TovuQuestionParts::optionRows(const QStringList &texts, TovuButton::Accessory accessory, QWidget *page,
                                            QList<TovuButton *> &rows, const std::function<void(TovuButton *)> &tapped)
 {
-    QVBoxLayout *layout = stack(10);
+    QVBoxLayout *layout = stack(qRound(Metrics::optionSpacing));
     for (int index = 0; index < texts.size(); ++index) {
         TovuButton *row = optionRow(texts[index], accessory, page);
         row->setTag(index);
@@ -127,7 +141,7 @@ void TovuQuestionParts::restyleAction(TovuButton *action, const QColor &accent)
 void TovuQuestionParts::restyleOptionRow(TovuButton *row, bool chosen, const QColor &accent)
 {
     // Unset colours follow the platform: system background, gray 4 and the label colour.
-    row->setBackgroundColor(chosen ? withAlpha(accent, 0.08) : QColor());
+    row->setBackgroundColor(chosen ? chosenFill(accent) : QColor());
     row->setBorderColor(chosen ? accent : QColor());
     row->setTitleColor(chosen ? accent : QColor());
     row->setAccessoryColor(accent);

@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QFont>
 #include <QList>
+#include <QMargins>
 #include <QString>
 #include <QStringList>
 
@@ -24,20 +25,19 @@ public:
     static QVBoxLayout *pageStack(QWidget *page, int spacing);
     /// A nested vertical stack with no margins.
     static QVBoxLayout *stack(int spacing);
-    /// The question title: 18 bold, any number of lines.
+    /// The question title: bold, any number of lines. Sizes are TovuPageMetrics'.
     static QLabel *titleLabel(const QString &text, QWidget *parent);
-    /// A grey line under the title (12 regular).
+    /// A grey line under the title.
     static QLabel *hintLabel(const QString &text, QWidget *parent);
-    /// The red required-answer message (13 regular), hidden at first.
+    /// The red required-answer message, hidden at first.
     static QLabel *validationLabel(const QString &text, QWidget *parent);
-    /// The accent-filled action button: 16 semibold, white title, radius 12, height 50.
+    /// The accent-filled action button: semibold white title.
     static TovuButton *actionButton(const QString &title, QWidget *parent);
-    /// An answer row with a radio or checkbox mark: 15 medium, leading title, radius 12,
-    /// border 1.5, height 52, insets 14 / 48 / 14 / 16.
+    /// An answer row with a radio or checkbox mark: medium, leading title.
     static TovuButton *optionRow(const QString &text, TovuButton::Accessory accessory, QWidget *parent);
 
-    /// A stack (spacing 10) of one option row per text, appended to `rows`; a tap on a
-    /// row calls `tapped` with it.
+    /// A stack of one option row per text, appended to `rows`; a tap on a row calls
+    /// `tapped` with it.
     static QVBoxLayout *optionRows(const QStringList &texts, TovuButton::Accessory accessory, QWidget *page,
                                    QList<TovuButton *> &rows, const std::function<void(TovuButton *)> &tapped);
 
@@ -46,11 +46,15 @@ public:
     static void restyleHint(QLabel *hint);
     static void restyleValidation(QLabel *validation);
     static void restyleAction(TovuButton *action, const QColor &accent);
-    /// Chosen: accent at 8 % behind an accent border, title and mark; else the platform look.
+    /// Chosen: a faint accent fill behind an accent border, title and mark; else the platform look.
     static void restyleOptionRow(TovuButton *row, bool chosen, const QColor &accent);
 
     /// `color` at `alpha`.
     static QColor withAlpha(QColor color, qreal alpha);
+    /// What a chosen row or list entry is filled with.
+    static QColor chosenFill(const QColor &accent);
+    /// Leading, top and bottom, trailing.
+    static QMargins insets(qreal leading, qreal vertical, qreal trailing);
     /// The theme's font, scaled by the survey's base size.
     static QFont font(qreal size, QFont::Weight weight);
 

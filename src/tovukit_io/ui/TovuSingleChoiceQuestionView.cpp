@@ -3,6 +3,7 @@
 #include "TovuQuestionParts.h"
 
 #include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 
 #include <QLabel>
@@ -18,7 +19,7 @@ TovuSingleChoiceQuestionView::TovuSingleChoiceQuestionView(TovuSingleChoiceQuest
     : TovuQuestionView(model, parent)
     , m_model(model)
 {
-    QVBoxLayout *outer = Parts::pageStack(this, 18);
+    QVBoxLayout *outer = Parts::pageStack(this, qRound(TovuPageMetrics::singleChoiceSpacing));
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
 
@@ -54,7 +55,7 @@ void TovuSingleChoiceQuestionView::optionTapped(TovuButton *row)
 {
     m_model->selectOption(row->tag());
     if (m_model->selectedIndex() == row->tag())
-        row->tapScale(0.97, 0.08);
+        row->tapScale(TovuPageMetrics::pressScale, TovuPageMetrics::pressSeconds);
 }
 
 void TovuSingleChoiceQuestionView::nextTapped()

@@ -5,12 +5,14 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuTextField.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 
 #include <QLabel>
 #include <QVBoxLayout>
 
 using Parts = TovuQuestionParts;
+using Metrics = TovuPageMetrics;
 
 TovuTextBoxQuestionView::TovuTextBoxQuestionView(TovuQuestion question, QWidget *parent)
     : TovuTextBoxQuestionView(new TovuTextBoxQuestionViewModel(std::move(question)), parent)
@@ -24,20 +26,20 @@ TovuTextBoxQuestionView::TovuTextBoxQuestionView(TovuTextBoxQuestionViewModel *m
     : TovuQuestionView(model, parent)
     , m_model(model)
 {
-    QVBoxLayout *outer = Parts::pageStack(this, 20);
+    QVBoxLayout *outer = Parts::pageStack(this, qRound(Metrics::textBoxSpacing));
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
 
-    m_inputsStack = Parts::stack(14);
+    m_inputsStack = Parts::stack(qRound(Metrics::inputsSpacing));
     for (int index = 0; index < m_model->fieldCount(); ++index) {
         TovuTextField *field = addField(index);
         if (!m_model->isMultiple()) {
             m_inputsStack->addWidget(field);
             continue;
         }
-        QVBoxLayout *group = Parts::stack(6);
-        QLabel *label
-            = TovuLabels::plain(m_model->fieldLabels().at(index), Parts::font(13, QFont::DemiBold), QColor(), this);
+        QVBoxLayout *group = Parts::stack(qRound(Metrics::fieldGroupSpacing));
+        QLabel *label = TovuLabels::plain(m_model->fieldLabels().at(index),
+                                          Parts::font(Metrics::fieldLabelFontSize, QFont::DemiBold), QColor(), this);
         group->addWidget(label);
         group->addWidget(field);
         m_inputsStack->addLayout(group);
@@ -57,7 +59,7 @@ TovuTextBoxQuestionView::~TovuTextBoxQuestionView() = default;
 TovuTextField *TovuTextBoxQuestionView::addField(int index)
 {
     auto *field = new TovuTextField(this);
-    field->setFont(Parts::font(15, QFont::Normal));
+    field->setFont(Parts::font(Metrics::fieldFontSize, QFont::Normal));
     field->setPlaceholderText(m_model->fieldPlaceholders().at(index));
     field->setAccessibleName(m_model->isMultiple() ? m_model->fieldLabels().at(index) : m_model->title());
     if (m_model->isEmailField(index))

@@ -1,14 +1,15 @@
 #include <tovukit_io/ui/TovuThankYouView.h>
 
+#include "TovuQuestionParts.h"
+
 #include <tovukit_io/graphics/TovuSymbol.h>
-#include <tovukit_io/platform/TovuUrlOpener.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QGraphicsEffect>
 #include <QGuiApplication>
@@ -78,54 +79,55 @@ private:
 
 namespace {
 
-// The success green does not follow the theme.
-QColor successGreen(qreal alpha)
-{
-    return QColor::fromRgbF(0.18f, 0.8f, 0.44f, static_cast<float>(alpha));
-}
+using Metrics = TovuPageMetrics;
 
-constexpr qreal startScale = 0.85;
-constexpr int discSize = 88;
-constexpr int iconSize = 56;
+constexpr int discSize = qRound(Metrics::thankYouDiscSize);
+constexpr int iconSize = qRound(Metrics::thankYouIconSize);
+
+QLabel *centredLabel(const QString &text, const QFont &font, QWidget *parent)
+{
+    QLabel *label = TovuLabels::plain(text, font, QColor(), parent);
+    label->setAlignment(Qt::AlignHCenter);
+    return label;
+}
 
 } // namespace
 
 TovuThankYouView::TovuThankYouView(std::optional<TovuQuestion> question, QWidget *parent, TovuUrlOpener *opener)
     : QWidget(parent)
-    , m_question(std::move(question))
+    , m_model(new TovuThankYouViewModel(std::move(question), opener, this))
 {
-    const TovuThemeEngine &theme = TovuThemeEngine::shared();
-    auto *stack = new QVBoxLayout(this);
-    stack->setContentsMargins(0, 24, 0, 24);
-    stack->setSpacing(16);
+    QVBoxLayout *stack = TovuQuestionParts::pageStack(this, qRound(Metrics::thankYouSpacing));
+    const int margin = qRound(Metrics::thankYouMargin);
+    stack->setContentsMargins(0, margin, 0, margin);
 
     buildIcon();
     stack->addWidget(m_iconContainer, 0, Qt::AlignHCenter);
-
-    const QString title = m_question ? QString::fromStdString(m_question->title) : tr("Thank you!");
-    m_titleLabel = TovuLabels::plain(title, theme.font(22, QFont::Bold), QColor(), this);
-    m_titleLabel->setAlignment(Qt::AlignHCenter);
+    m_titleLabel
+        = centredLabel(m_model->title(), TovuQuestionParts::font(Metrics::thankYouTitleFontSize, QFont::Bold), this);
     stack->addWidget(m_titleLabel);
-
-    const QString subtitle = m_question && m_question->subtitle ? QString::fromStdString(*m_question->subtitle)
-                                                                : tr("Your feedback helps us improve.");
-    m_subtitleLabel = TovuLabels::plain(subtitle, theme.font(15, QFont::Normal), QColor(), this);
-    m_subtitleLabel->setAlignment(Qt::AlignHCenter);
+    m_subtitleLabel = centredLabel(m_model->subtitle(),
+                                   TovuQuestionParts::font(Metrics::thankYouSubtitleFontSize, QFont::Normal), this);
     stack->addWidget(m_subtitleLabel);
     restyle();
 
     m_entranceEffect = new TovuThankYouEntranceEffect(this);
     setGraphicsEffect(m_entranceEffect);
     startEntrance();
-    scheduleRedirect(opener);
+    m_model->scheduleRedirect();
+}
+
+const std::optional<TovuQuestion> &TovuThankYouView::question() const
+{
+    return m_model->question();
 }
 
 void TovuThankYouView::buildIcon()
 {
     m_iconContainer = new TovuBox(this);
     m_iconContainer->setFixedSize(discSize, discSize);
-    m_iconContainer->setCornerRadius(discSize / 2);
-    m_iconContainer->setBackgroundColor(successGreen(0.12));
+    m_iconContainer->setCornerRadius(Metrics::thankYouDiscSize / 2);
+    m_iconContainer->setBackgroundColor(m_model->discColor());
 
     m_iconView = new QLabel(m_iconContainer);
     m_iconView->setFixedSize(iconSize, iconSize);
@@ -133,9 +135,9 @@ void TovuThankYouView::buildIcon()
     m_iconView->setAlignment(Qt::AlignCenter);
     // Fitted to the whole view, and sharp on the densest screen the page may be shown on.
     const qreal ratio = std::max(devicePixelRatioF(), qGuiApp->devicePixelRatio());
-    m_iconView->setPixmap(
-        TovuSymbol::pixmap(u"checkmark.circle.fill", iconSize, QFont::Medium, successGreen(1.0), ratio));
-    m_iconView->setAccessibleName(tr("Done"));
+    m_iconView->setPixmap(TovuSymbol::pixmap(u"checkmark.circle.fill", Metrics::thankYouIconSize, QFont::Medium,
+                                             m_model->iconColor(), ratio));
+    m_iconView->setAccessibleName(m_model->iconAccessibleName());
 }
 
 // Colours are resolved again on every palette change, so a light → dark switch after
@@ -155,7 +157,7 @@ void TovuThankYouView::changeEvent(QEvent *event)
 
 qreal TovuThankYouView::entranceScale() const
 {
-    return startScale + (1 - startScale) * std::max<qreal>(0, m_entranceProgress);
+    return Metrics::thankYouStartScale + (1 - Metrics::thankYouStartScale) * std::max<qreal>(0, m_entranceProgress);
 }
 
 void TovuThankYouView::startEntrance()
@@ -164,8 +166,8 @@ void TovuThankYouView::startEntrance()
     auto *animation = new QVariantAnimation(this);
     animation->setStartValue(0.0);
     animation->setEndValue(1.0);
-    animation->setDuration(TovuMotion::durationMs(0.4));
-    animation->setEasingCurve(TovuMotion::spring(0.7, 0.5));
+    animation->setDuration(TovuMotion::durationMs(Metrics::thankYouEntranceSeconds));
+    animation->setEasingCurve(TovuMotion::spring(Metrics::thankYouDampingRatio, Metrics::thankYouInitialVelocity));
     connect(animation, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &value) { setEntranceProgress(value.toReal()); });
     // Once in, the page paints directly again instead of through the effect.
@@ -174,31 +176,19 @@ void TovuThankYouView::startEntrance()
         m_entranceEffect->setEnabled(false);
     };
     connect(animation, &QVariantAnimation::finished, this, finish);
-    if (TovuMotion::durationMs(0.05) == 0 && animation->duration() == 0) {
+    const int delayMs = TovuMotion::durationMs(Metrics::thankYouEntranceDelaySeconds);
+    if (delayMs == 0 && animation->duration() == 0) {
         finish();
         delete animation;
         return;
     }
-    QTimer::singleShot(TovuMotion::durationMs(0.05), animation,
-                       [animation] { animation->start(QAbstractAnimation::DeleteWhenStopped); });
+    QTimer::singleShot(delayMs, animation, [animation] { animation->start(QAbstractAnimation::DeleteWhenStopped); });
 }
 
-// Fades in and zooms from 85 % to full size (a spring may overshoot slightly). Only the
+// Fades in and zooms from thankYouStartScale to full size (a spring may overshoot slightly). Only the
 // picture changes: the page keeps its size, so nothing around it moves or reflows.
 void TovuThankYouView::setEntranceProgress(qreal progress)
 {
     m_entranceProgress = progress;
     m_entranceEffect->setLook(std::clamp<qreal>(progress, 0, 1), entranceScale());
-}
-
-void TovuThankYouView::scheduleRedirect(TovuUrlOpener *opener)
-{
-    if (!m_question || !m_question->redirectURL)
-        return;
-    const QUrl url(QString::fromStdString(*m_question->redirectURL), QUrl::StrictMode);
-    if (!TovuUrlOpener::isOpenable(url))
-        return;
-    // Not tied to this page: the address opens even if the sheet is gone.
-    QTimer::singleShot(redirectDelayMs, QCoreApplication::instance(),
-                       [url, opener] { (opener ? opener : TovuUrlOpener::defaultOpener())->openIfValid(url); });
 }

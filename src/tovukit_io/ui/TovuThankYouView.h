@@ -1,6 +1,7 @@
 #pragma once
 
 #include <tovukit_io/model/TovuSurvey.h>
+#include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
 
 #include <QWidget>
 
@@ -11,12 +12,13 @@ class TovuBox;
 class TovuThankYouEntranceEffect;
 class TovuUrlOpener;
 
-/// The closing page: a green check mark, a title and a line under it. When
-/// its question carries a web address, that address is opened 2.5 s after
-/// the page is built, even if the sheet has closed by then.
+/// The closing page: a green check mark, a title and a line under it, as its view
+/// model (`viewModel()`) gives them. When its question carries a web address, that
+/// address is opened TovuPageMetrics::redirectDelaySeconds after the page is built,
+/// even if the sheet has closed by then.
 ///
-/// The page comes in by fading in and zooming from 85 % to full size. The zoom
-/// is painted: the page's size and layout stay still, so the sheet around it
+/// The page comes in by fading in and zooming from thankYouStartScale to full size.
+/// The zoom is painted: the page's size and layout stay still, so the sheet around it
 /// does not move.
 class TovuThankYouView : public QWidget
 {
@@ -24,7 +26,7 @@ class TovuThankYouView : public QWidget
 
 public:
     /// `opener` opens the redirect (the default opener when null, looked up
-    /// when the redirect fires); a given opener must outlive the 2.5 s.
+    /// when the redirect fires); a given opener must outlive the delay.
     explicit TovuThankYouView(std::optional<TovuQuestion> question, QWidget *parent = nullptr,
                               TovuUrlOpener *opener = nullptr);
 
@@ -32,15 +34,16 @@ public:
     QLabel *iconView() const { return m_iconView; }
     QLabel *titleLabel() const { return m_titleLabel; }
     QLabel *subtitleLabel() const { return m_subtitleLabel; }
-    const std::optional<TovuQuestion> &question() const { return m_question; }
+    const std::optional<TovuQuestion> &question() const;
+    TovuThankYouViewModel *viewModel() const { return m_model; }
 
     /// 0 just built, 1 once the entrance animation has finished.
     qreal entranceProgress() const { return m_entranceProgress; }
-    /// The scale the page is drawn at: 0.85 just built, 1 once in (the spring may
-    /// overshoot it briefly). Only the drawing scales, never the layout.
+    /// The scale the page is drawn at: thankYouStartScale just built, 1 once in (the
+    /// spring may overshoot it briefly). Only the drawing scales, never the layout.
     qreal entranceScale() const;
 
-    static constexpr int redirectDelayMs = 2500;
+    static constexpr int redirectDelayMs = TovuThankYouViewModel::redirectDelayMs;
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -50,9 +53,8 @@ private:
     void restyle();
     void startEntrance();
     void setEntranceProgress(qreal progress);
-    void scheduleRedirect(TovuUrlOpener *opener);
 
-    std::optional<TovuQuestion> m_question;
+    TovuThankYouViewModel *m_model = nullptr;
     TovuBox *m_iconContainer = nullptr;
     QLabel *m_iconView = nullptr;
     QLabel *m_titleLabel = nullptr;

@@ -4,6 +4,7 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <QApplication>
@@ -17,21 +18,16 @@
 #include <QVariantAnimation>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
-// Panel geometry, in points.
-constexpr int handleTop = 8;
-constexpr QSize handleSize{40, 5};
-constexpr int skipTop = 12;
-constexpr int skipTrailing = 16;
-constexpr int contentTop = handleTop + 5 + 24;
-constexpr int contentSide = 20;
-constexpr int contentBottom = 20;
-constexpr qreal maxHeightRatio = 0.92;
-constexpr qreal offscreen = 1000;
-constexpr int keyboardDurationMs = 250; // Qt does not tell the keyboard's own
-constexpr int keyboardTopMargin = 8; // the lifted panel keeps this much of the host visible
+using Metrics = TovuSheetMetrics;
+
+// The panel is laid out in whole points.
+constexpr int contentTop = qRound(Metrics::contentTop);
+constexpr int contentSide = qRound(Metrics::contentSide);
+constexpr int contentBottom = qRound(Metrics::contentBottom);
 
 // Input that reaches the sheet itself: a tap on the dimming layer, or a key or shortcut
 // no control in the panel took. None of it may go on to the host below.
@@ -113,13 +109,15 @@ void TovuToasterView::buildPanel()
     theme.applyCornerRadius(m_containerView);
 
     m_handleView = new TovuBox(m_containerView);
-    m_handleView->setCornerRadius(2.5);
-    m_handleView->setFixedSize(handleSize);
+    m_handleView->setCornerRadius(Metrics::handleCornerRadius);
+    m_handleView->setFixedSize(qRound(Metrics::handleWidth), qRound(Metrics::handleHeight));
 
     m_skipButton = new TovuButton(tr("Skip"), m_containerView);
     m_skipButton->setBackgroundColor(Qt::transparent);
-    m_skipButton->setFont(theme.font(14, QFont::Normal));
-    m_skipButton->setContentInsets(QMargins(4, 2, 4, 2));
+    m_skipButton->setFont(theme.font(Metrics::skipFontSize, QFont::Normal));
+    const int insetH = qRound(Metrics::skipInsetHorizontal);
+    const int insetV = qRound(Metrics::skipInsetVertical);
+    m_skipButton->setContentInsets(QMargins(insetH, insetV, insetH, insetV));
     connect(m_skipButton, &TovuButton::clicked, this, &TovuToasterView::skipTapped);
 
     m_scrollArea = new QScrollArea(m_containerView);
@@ -134,7 +132,7 @@ void TovuToasterView::buildPanel()
     m_content = new QWidget;
     m_contentStack = new QVBoxLayout(m_content);
     m_contentStack->setContentsMargins(0, 0, 0, 0);
-    m_contentStack->setSpacing(20);
+    m_contentStack->setSpacing(qRound(Metrics::contentSpacing));
     m_scrollArea->setWidget(m_content);
     m_content->setAutoFillBackground(false); // setWidget() turned it on: the panel shows through
     // A page that grows (a follow-up opening) makes the panel taller.
@@ -160,13 +158,14 @@ void TovuToasterView::present(QWidget *host)
     setGeometry(host->rect());
     host->installEventFilter(this);
     trackKeyboard(true);
-    setTranslation(offscreen);
+    setTranslation(Metrics::offscreenDistance);
     show();
     raise();
     // Keys go to the sheet from now on; the sheet swallows what its controls do not take.
     setFocus(Qt::OtherFocusReason);
     // The dimming layer is there at once; only the panel moves.
-    animate(this, offscreen, 0, TovuMotion::durationMs(0.35), TovuMotion::spring(0.8, 1.2),
+    animate(this, Metrics::offscreenDistance, 0, TovuMotion::durationMs(Metrics::presentSeconds),
+            TovuMotion::spring(Metrics::presentDampingRatio, Metrics::presentInitialVelocity),
             [this](qreal value) { setTranslation(value); });
 }
 
@@ -183,9 +182,9 @@ void TovuToasterView::dismiss()
     setGraphicsEffect(fade);
     const qreal start = m_translation;
     animate(
-        this, 0, 1, TovuMotion::durationMs(0.3), QEasingCurve(QEasingCurve::InOutQuad),
+        this, 0, 1, TovuMotion::durationMs(Metrics::dismissSeconds), QEasingCurve(QEasingCurve::InOutQuad),
         [this, fade, start](qreal progress) {
-            setTranslation(start + (offscreen - start) * progress);
+            setTranslation(start + (Metrics::offscreenDistance - start) * progress);
             fade->setOpacity(1 - progress);
         },
         [this] {
@@ -336,12 +335,14 @@ void TovuToasterView::trackKeyboard(bool on)
 
 void TovuToasterView::keyboardRectangleChanged()
 {
+    // Qt does not tell the keyboard's own duration.
+    const int durationMs = static_cast<int>(std::lround(Metrics::keyboardSeconds * 1000));
     const QInputMethod *inputMethod = QGuiApplication::inputMethod();
     const QRectF keyboard = inputMethod->keyboardRectangle();
     if (inputMethod->isVisible() && !keyboard.isEmpty())
-        keyboardWillShow(keyboard, keyboardDurationMs);
+        keyboardWillShow(keyboard, durationMs);
     else
-        keyboardWillHide(keyboardDurationMs);
+        keyboardWillHide(durationMs);
 }
 
 void TovuToasterView::setTranslation(qreal translation)
@@ -364,10 +365,10 @@ int TovuToasterView::panelHeight() const
     const int contentHeight
         = layout->hasHeightForWidth() ? layout->totalHeightForWidth(contentWidth) : layout->totalSizeHint().height();
     const int wanted = contentTop + contentHeight + contentBottom;
-    int limit = static_cast<int>(height() * maxHeightRatio);
+    int limit = static_cast<int>(height() * Metrics::maxHeightRatio);
     // Lifted by the keyboard, the panel gets shorter rather than rising above the host's top.
     if (m_bottomOffset > 0)
-        limit = std::min(limit, height() - static_cast<int>(m_bottomOffset) - keyboardTopMargin);
+        limit = std::min(limit, height() - static_cast<int>(m_bottomOffset) - qRound(Metrics::keyboardTopMargin));
     return std::clamp(wanted, 0, std::max(0, limit));
 }
 
@@ -378,10 +379,11 @@ void TovuToasterView::layoutPanel()
     const int top = height() - panel - static_cast<int>(m_bottomOffset) + static_cast<int>(m_translation);
     m_containerView->setGeometry(0, top, panelWidth, panel);
 
-    m_handleView->move((panelWidth - handleSize.width()) / 2, handleTop);
+    m_handleView->move((panelWidth - m_handleView->width()) / 2, qRound(Metrics::handleTop));
     m_skipButton->adjustSize();
+    const int skipTrailing = qRound(Metrics::skipTrailing);
     const int skipX = isRightToLeft() ? skipTrailing : panelWidth - skipTrailing - m_skipButton->width();
-    m_skipButton->move(skipX, skipTop);
+    m_skipButton->move(skipX, qRound(Metrics::skipTop));
     m_scrollArea->setGeometry(contentSide, contentTop, std::max(0, panelWidth - 2 * contentSide),
                               std::max(0, panel - contentTop - contentBottom));
     m_skipButton->raise();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <tovukit_io/model/TovuSurvey.h>
+#include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 
 #include <QPointer>
 #include <QWidget>
@@ -25,8 +26,8 @@ class TovuButton;
 /// sheet->present(hostWindow);   // covers hostWindow and follows its size
 /// \endcode
 ///
-/// The panel is at most 92 % of the host's height; taller pages scroll
-/// inside it. It rises above the on-screen keyboard while one is shown and
+/// The panel is at most TovuSheetMetrics::maxHeightRatio of the host's
+/// height; taller pages scroll inside it. It rises above the on-screen keyboard while one is shown and
 /// keeps the focused field in view. While the sheet is up the host gets no
 /// input: taps on the dimming layer do nothing, keyboard focus stays inside
 /// the sheet and returns to the host's focused widget afterwards. Input ends
@@ -59,9 +60,9 @@ public:
     const std::optional<TovuSurvey> &survey() const { return m_survey; }
     /// How far the panel's bottom sits above the sheet's bottom edge (the keyboard's height, or 0).
     qreal containerBottomOffset() const { return m_bottomOffset; }
-    /// The dimming layer's alpha: the survey theme's transparency, else 0.5.
+    /// The dimming layer's alpha: the survey theme's transparency, else TovuSheetMetrics::defaultDimmingAlpha.
     qreal dimmingAlpha() const { return m_dimmingAlpha; }
-    /// The panel's slide: 0 in place, up to 1000 off the bottom edge.
+    /// The panel's slide: 0 in place, up to TovuSheetMetrics::offscreenDistance off the bottom edge.
     qreal panelTranslation() const { return m_translation; }
     bool isDismissing() const { return m_dismissing; }
 
@@ -104,7 +105,7 @@ private:
     QWidget *m_content = nullptr;
     QVBoxLayout *m_contentStack = nullptr;
     QPointer<QVariantAnimation> m_keyboardAnimation;
-    qreal m_dimmingAlpha = 0.5;
+    qreal m_dimmingAlpha = TovuSheetMetrics::defaultDimmingAlpha;
     qreal m_translation = 0;
     qreal m_bottomOffset = 0;
     bool m_dismissing = false;

@@ -1,4 +1,4 @@
-# Theme, platform colours and motion: what every page reads, in both front ends.
+# Theme, platform colours, motion and the pages' sizes: what every page reads, in both front ends.
 list(APPEND viewmodel_sources
   TovuMotion.cpp
   TovuPlatformColors.cpp
@@ -6,8 +6,18 @@ list(APPEND viewmodel_sources
 list(APPEND viewmodel_headers
   TovuAppTheme.h
   TovuMotion.h
+  TovuPageMetrics.h
   TovuPlatformColors.h
+  TovuSheetMetrics.h
   TovuThemeEngine.h)
+
+# The intro and thank-you pages.
+list(APPEND viewmodel_sources
+  TovuIntroViewModel.cpp
+  TovuThankYouViewModel.cpp)
+list(APPEND viewmodel_headers
+  TovuIntroViewModel.h
+  TovuThankYouViewModel.h)
 
 # One behaviour model per page type.
 list(APPEND viewmodel_sources

@@ -5,6 +5,7 @@
 #include <tovukit_io/graphics/TovuSymbol.h>
 #include <tovukit_io/graphics/TovuTextMetrics.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include "TovuButtonScaleEffect.h"
@@ -23,6 +24,8 @@
 
 namespace {
 
+using Metrics = TovuPageMetrics;
+
 // Room kept between the accessory and the title.
 constexpr qreal accessoryGap = 10;
 
@@ -30,6 +33,7 @@ constexpr qreal accessoryGap = 10;
 
 TovuButton::TovuButton(const QString &title, QWidget *parent)
     : QAbstractButton(parent)
+    , m_accessoryInset(Metrics::markLeading)
 {
     // Corners outside the radius stay transparent, also when the button is grabbed alone.
     setAttribute(Qt::WA_NoSystemBackground);
@@ -186,7 +190,7 @@ qreal TovuButton::accessorySize() const
 {
     if (m_accessorySize >= 0)
         return m_accessorySize;
-    return m_accessory == Accessory::checkbox ? 22 : 20;
+    return m_accessory == Accessory::checkbox ? Metrics::checkboxSize : Metrics::radioSize;
 }
 
 void TovuButton::setAccessorySize(qreal size)
@@ -432,21 +436,24 @@ void TovuButton::paintAccessory(QPainter &painter, const QRectF &bounds)
     const QColor tint = accessoryColor();
     const QColor ring = checked ? tint : TovuPlatformColors::color(TovuPlatformColors::Role::gray3);
     const QColor fill = checked ? tint : QColor(Qt::transparent);
-    const qreal ringWidth = std::min<qreal>(2, side / 4);
 
     if (m_accessory == Accessory::radio) {
+        const qreal ringWidth = std::min(Metrics::radioBorderWidth, side / 4);
         TovuPainting::paintBox(painter, mark, fill, ring, ringWidth, side / 2);
         if (checked) {
-            // A 10-point dot, smaller in small circles.
-            const qreal dot = std::min<qreal>(10, side * 0.56);
+            // Smaller in small circles.
+            const qreal dot = std::min(Metrics::radioDotSize, side * 0.56);
             painter.setPen(Qt::NoPen);
             painter.setBrush(Qt::white);
             painter.drawEllipse(mark.center(), dot / 2, dot / 2);
         }
     } else {
-        TovuPainting::paintBox(painter, mark, fill, ring, ringWidth, side * 6 / 22);
+        // Corner and check keep their proportions in a checkbox of another size.
+        const qreal ringWidth = std::min(Metrics::checkboxBorderWidth, side / 4);
+        TovuPainting::paintBox(painter, mark, fill, ring, ringWidth,
+                               side * Metrics::checkboxCornerRadius / Metrics::checkboxSize);
         if (checked) {
-            const qreal check = side * 13 / 22;
+            const qreal check = side * Metrics::checkGlyphSize / Metrics::checkboxSize;
             TovuSymbol::paint(painter, QRectF(mark.center() - QPointF(check / 2, check / 2), QSizeF(check, check)),
                               u"checkmark", QFont::DemiBold, Qt::white);
         }

@@ -25,7 +25,8 @@ class TovuKitAnimator;
 /// row->setTitleAlignment(Qt::AlignLeading);
 /// row->setContentInsets(QMargins(48, 14, 16, 14));
 /// connect(row, &QAbstractButton::clicked, view, [=] {
-///     row->tapScale(0.97, 0.08); // pressing alone never animates; views choose the bump
+///     // pressing alone never animates; views choose the bump
+///     row->tapScale(TovuPageMetrics::pressScale, TovuPageMetrics::pressSeconds);
 ///     ...
 /// });
 /// \endcode
@@ -85,10 +86,11 @@ public:
     /// Fill of the checked mark and its border.
     QColor accessoryColor() const;
     void setAccessoryColor(const QColor &color);
-    /// Side of the mark: 20 for a radio circle and 22 for a checkbox unless set.
+    /// Side of the mark: TovuPageMetrics::radioSize for a radio circle and checkboxSize
+    /// for a checkbox unless set.
     qreal accessorySize() const;
     void setAccessorySize(qreal size);
-    /// Distance of the mark from the leading edge; 16 by default.
+    /// Distance of the mark from the leading edge; TovuPageMetrics::markLeading by default.
     qreal accessoryInset() const;
     void setAccessoryInset(qreal inset);
 
@@ -146,7 +148,7 @@ private:
     QMargins m_contentInsets = QMargins(16, 10, 16, 10);
     Accessory m_accessory = Accessory::none;
     qreal m_accessorySize = -1;
-    qreal m_accessoryInset = 16;
+    qreal m_accessoryInset;
     qreal m_scale = 1;
     qreal m_opacity = 1;
     int m_tag = -1;

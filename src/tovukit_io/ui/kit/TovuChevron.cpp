@@ -1,6 +1,7 @@
 #include <tovukit_io/ui/kit/TovuChevron.h>
 
 #include <tovukit_io/graphics/TovuSymbol.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include "TovuKitAnimator.h"
@@ -12,15 +13,16 @@
 
 namespace {
 
-constexpr qreal glyphSide = 13;
+constexpr qreal glyphSide = TovuPageMetrics::chevronSize;
 // Room around the glyph so its corners are not cut while it turns.
 constexpr int margin = 2;
-constexpr int side = static_cast<int>(glyphSide) + 2 * margin;
+constexpr int side = qRound(glyphSide) + 2 * margin;
 
 } // namespace
 
 TovuChevron::TovuChevron(QWidget *parent)
     : QWidget(parent)
+    , m_trailingInset(TovuPageMetrics::chevronTrailing)
     , m_animator(std::make_unique<TovuKitAnimator>(this, [this](qreal degrees) { setRotation(degrees); }))
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -67,7 +69,8 @@ void TovuChevron::setExpanded(bool expanded)
     if (m_expanded == expanded)
         return;
     m_expanded = expanded;
-    m_animator->run({m_rotation, expanded ? 180.0 : 0.0}, 0.22, TovuKitAnimator::easeInOut());
+    m_animator->run({m_rotation, expanded ? 180.0 : 0.0}, TovuPageMetrics::chevronSeconds,
+                    TovuKitAnimator::easeInOut());
 }
 
 qreal TovuChevron::trailingInset() const

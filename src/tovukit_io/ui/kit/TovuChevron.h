@@ -8,10 +8,11 @@
 
 class TovuKitAnimator;
 
-/// The "chevron.down" symbol (13 points, semibold) of a dropdown selector, placed inside
-/// its parent: centred vertically, its trailing edge `trailingInset` in from the parent's
-/// (the leading side right to left), following the parent as it resizes. Clicks pass
-/// through to the parent. `setExpanded` turns it half a turn over 0.22 s.
+/// The "chevron.down" symbol (TovuPageMetrics::chevronSize, semibold) of a dropdown
+/// selector, placed inside its parent: centred vertically, its trailing edge
+/// `trailingInset` in from the parent's (the leading side right to left), following the
+/// parent as it resizes. Clicks pass through to the parent. `setExpanded` turns it half a
+/// turn over chevronSeconds.
 ///
 /// \code
 /// auto *selector = new TovuButton(placeholder, this);
@@ -39,9 +40,9 @@ public:
     qreal rotation() const;
     void setRotation(qreal degrees);
     bool isExpanded() const;
-    /// Animates `rotation` to 180 (expanded) or 0 over 0.22 s of motion time.
+    /// Animates `rotation` to 180 (expanded) or 0 over chevronSeconds of motion time.
     void setExpanded(bool expanded);
-    /// 16 by default.
+    /// TovuPageMetrics::chevronTrailing by default.
     qreal trailingInset() const;
     void setTrailingInset(qreal inset);
     /// -1 by default.
@@ -60,7 +61,7 @@ private:
 
     QColor m_tint;
     qreal m_rotation = 0;
-    qreal m_trailingInset = 16;
+    qreal m_trailingInset;
     int m_tag = -1;
     bool m_expanded = false;
     QPointer<QWidget> m_followed;

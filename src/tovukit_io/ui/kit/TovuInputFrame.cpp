@@ -2,6 +2,7 @@
 
 #include <tovukit_io/graphics/TovuBoxLook.h>
 #include <tovukit_io/graphics/TovuPainting.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include "TovuKitAnimator.h"
@@ -14,9 +15,6 @@
 namespace {
 
 using Role = TovuPlatformColors::Role;
-
-constexpr qreal focusedBorderWidth = 2;
-constexpr qreal focusSeconds = 0.2;
 
 QColor mix(const QColor &from, const QColor &to, qreal t)
 {
@@ -47,7 +45,10 @@ public:
         })
     { }
 
-    void animateTo(qreal target) { animator.run({progress, target}, focusSeconds, TovuKitAnimator::easeInOut()); }
+    void animateTo(qreal target)
+    {
+        animator.run({progress, target}, TovuPageMetrics::fieldFocusSeconds, TovuKitAnimator::easeInOut());
+    }
     void applyPalette();
 
     QWidget *widget;
@@ -135,7 +136,7 @@ QColor TovuInputFrame::currentBorderColor() const
 
 qreal TovuInputFrame::currentBorderWidth() const
 {
-    return d->look.borderWidth + (focusedBorderWidth - d->look.borderWidth) * d->progress;
+    return d->look.borderWidth + (TovuPageMetrics::fieldFocusedBorderWidth - d->look.borderWidth) * d->progress;
 }
 
 bool TovuInputFrame::hasError() const

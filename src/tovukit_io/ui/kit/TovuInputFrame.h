@@ -12,8 +12,9 @@ class QWidget;
 
 /// The painted frame the kit's text inputs share (TovuTextField, TovuTextArea), as a
 /// second base next to their Qt widget: a rounded box whose border moves between a
-/// resting state and a focused one. On focus it turns to `focusBorderColor` at width 2
-/// over 0.2 s and any error is cleared; on blur it goes back. An error paints the border
+/// resting state and a focused one. On focus it turns to `focusBorderColor` at
+/// TovuPageMetrics::fieldFocusedBorderWidth over fieldFocusSeconds and any error is
+/// cleared; on blur it goes back. An error paints the border
 /// red until the next focus. Unset colours resolve at paint time, so they follow light
 /// and dark; text and placeholder colours follow the palette too.
 class TovuInputFrame

@@ -1,6 +1,7 @@
 #include <tovukit_io/ui/kit/TovuShake.h>
 
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 
 #include "TovuKitAnimator.h"
 
@@ -14,8 +15,8 @@
 
 namespace {
 
-constexpr qreal distance = 6;
-constexpr qreal legSeconds = 0.08;
+constexpr qreal distance = TovuPageMetrics::shakeDistance;
+constexpr qreal legSeconds = TovuPageMetrics::shakeSeconds;
 
 // Draws the widget (and its children) moved sideways by the current offset.
 class ShakeEffect : public QGraphicsEffect

@@ -4,8 +4,9 @@
 
 class QWidget;
 
-/// The "try again" shake of a view whose answer is missing: its drawing moves 6 points
-/// to the left over 0.08 s and back over 0.08 s (motion time). Only the painting moves,
+/// The "try again" shake of a view whose answer is missing: its drawing moves
+/// TovuPageMetrics::shakeDistance points to the left over shakeSeconds and back over
+/// shakeSeconds (motion time). Only the painting moves,
 /// through a graphics effect that is removed when done: layouts and geometry stay put.
 ///
 /// A widget that already has a graphics effect of its own (a shadow, a scaled button)

@@ -1,5 +1,7 @@
 #include <tovukit_io/ui/kit/TovuTextField.h>
 
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
+
 #include <QEvent>
 #include <QFocusEvent>
 #include <QPainter>
@@ -8,18 +10,21 @@
 
 namespace {
 
+using Metrics = TovuPageMetrics;
+
 // QLineEdit keeps 2 points of its own inside the text margins.
-constexpr int textPadding = 14 - 2;
+constexpr int lineEditMargin = 2;
+constexpr int textPadding = qRound(Metrics::fieldPadding) - lineEditMargin;
 
 } // namespace
 
 TovuTextField::TovuTextField(QWidget *parent)
     : QLineEdit(parent)
-    , TovuInputFrame(this, 10, 1.5)
+    , TovuInputFrame(this, Metrics::fieldCornerRadius, Metrics::fieldBorderWidth)
 {
     setFrame(false);
     setTextMargins(textPadding, 0, textPadding, 0);
-    setFixedHeight(48);
+    setFixedHeight(qRound(Metrics::fieldHeight));
     setMaxLength(std::numeric_limits<int>::max());
     setAttribute(Qt::WA_MacShowFocusRect, false);
     applyFramePalette();

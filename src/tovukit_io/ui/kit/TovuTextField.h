@@ -4,10 +4,11 @@
 
 #include <QLineEdit>
 
-/// A one-line text input with a painted rounded frame: radius 10, a 1.5 border in
-/// system gray 4 over the system background, 14 points of padding left and right, 48
-/// high. On focus the border turns to `focusBorderColor` at width 2 over 0.2 s and any
-/// error is cleared; on blur it goes back. `hasError` paints the border red.
+/// A one-line text input with a painted rounded frame: a border in system gray 4 over
+/// the system background, sized by TovuPageMetrics (fieldCornerRadius, fieldBorderWidth,
+/// fieldPadding left and right, fieldHeight). On focus the border turns to
+/// `focusBorderColor` at fieldFocusedBorderWidth over fieldFocusSeconds and any error is
+/// cleared; on blur it goes back. `hasError` paints the border red.
 ///
 /// Text and placeholder take the platform label and secondary label colours and follow
 /// light and dark as the palette changes. What is typed is kept as typed: no validator,
@@ -15,7 +16,7 @@
 ///
 /// \code
 /// auto *email = new TovuTextField(this);
-/// email->setFont(theme.font(15, QFont::Normal));
+/// email->setFont(theme.font(TovuPageMetrics::fieldFontSize, QFont::Normal));
 /// email->setPlaceholderText(QStringLiteral("Email\u2026"));
 /// email->setInputMethodHints(Qt::ImhEmailCharactersOnly);
 /// connect(email, &TovuTextField::focused, this, [=] { scrollToField(email); });
