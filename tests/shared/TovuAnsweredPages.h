@@ -30,7 +30,8 @@ inline void check(const nlohmann::ordered_json &item, const std::vector<Expected
     for (const Expected &e : expected) {
         SCOPED_TRACE(e.questionId);
         EXPECT_TRUE(timed.contains(e.questionId));
-        const auto question = std::ranges::find(item["questions"], Json(e.questionId), [](const Json &q) { return q["uuid"]; });
+        const auto question
+            = std::ranges::find(item["questions"], Json(e.questionId), [](const Json &q) { return q["uuid"]; });
         ASSERT_NE(question, item["questions"].end());
         std::vector<std::string> rows, texts;
         for (const Json &value : (*question)["answer"]) {
