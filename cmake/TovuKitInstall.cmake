@@ -17,6 +17,18 @@ install(FILES ${umbrella} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tovukit_io)
 set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tovukit_io)
 install(EXPORT tovukit_ioTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
 
+# The Qt Quick front end too: find_package(tovukit_io COMPONENTS quick).
+get_property(quick_layers GLOBAL PROPERTY TOVUKIT_QUICK_LAYERS)
+if(quick_layers)
+  install(TARGETS ${quick_layers}
+    EXPORT tovukit_ioQuickTargets
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/tovukit_io/objects
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(EXPORT tovukit_ioQuickTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
+endif()
+
 # The web path has an export set of its own, loaded by the package config only
 # where QtWebEngine is found: find_package(tovukit_io COMPONENTS web).
 get_property(web_layers GLOBAL PROPERTY TOVUKIT_WEB_LAYERS)

@@ -31,6 +31,9 @@ inline bool prepare(int &argc, char **argv)
         return false;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Qt Quick scenes draw without a GPU, as on a board with none.
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
     QStandardPaths::setTestModeEnabled(true);
     return true;
 }

@@ -6,8 +6,10 @@
 // with the intro page, with the thank-you page, with a page taller than the
 // sheet, and with a survey theme (transparency 0.2, its own colours, font base 20);
 // every question view untouched, after a choice and with its validation message;
-// the dropdown open; the text box with a focused field.
+// the dropdown open; the text box with a focused field. Where the Qt Quick front
+// end is built, each page type beside its Qt Widgets twin (pair-*.png).
 
+#include "TovuFrontEndPairs.h"
 #include "TovuKitSampleSheet.h"
 #include "TovuQuestionSamples.h"
 #include "TovuRatingSamples.h"
@@ -135,6 +137,9 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "2");
+    // Qt Quick pages draw without a GPU, like the offscreen widgets.
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
     QApplication application(argc, argv);
     TovuMotion::setDurationScale(0); // the final frame, not the slide
     const QDir out(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("screenshots"));
@@ -166,6 +171,9 @@ int main(int argc, char **argv)
         std::ranges::move(TovuRatingSamples::shots(), std::back_inserter(shots));
         for (const TovuQuestionSamples::Shot &shot : shots)
             ok &= shoot(file(shot.name), std::nullopt, shot.makePage, shot.act);
+#ifdef TOVU_SCREENSHOTS_QUICK
+        ok &= TovuFrontEndPairs::shoot(out, dark ? "dark" : "light");
+#endif
     }
     return ok ? 0 : 1;
 }

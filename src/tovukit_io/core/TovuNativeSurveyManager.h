@@ -10,9 +10,12 @@
 
 #include <QColor>
 #include <QObject>
+#include <QStringList>
+#include <QVariant>
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -107,7 +110,7 @@ public:
     std::optional<TovuTheme> currentTheme() const;
 
     void setUser(TovuUserData user);
-    void clearUser();
+    Q_INVOKABLE void clearUser();
 
     /// Shows the survey over `host` after `afterDelaySeconds`; a second call replaces the first.
     Q_INVOKABLE void startIntercept(double afterDelaySeconds, QObject *host);
@@ -123,8 +126,31 @@ public:
 
     /// Sends every queued response; `completion` gets true when none failed.
     void flushQueue(std::function<void(bool)> completion);
-    void clearQueue();
+    Q_INVOKABLE void clearQueue();
     std::vector<TovuQueuedResponse> getQueuedResponses() const;
+
+    // The same operations with QML's types, for the `TovuNativeSurveyManager`
+    // singleton of `import TovuKit`:
+    //
+    //   TovuNativeSurveyManager.configure({ apiKey: "key", collectorId: "c-123", zone: "eu" })
+    //   TovuNativeSurveyManager.configureTheme({ primaryColor: "#1E8E3E", cornerRadius: 24 })
+    //   TovuNativeSurveyManager.startIntercept(3, window)
+    //   TovuNativeSurveyManager.flushQueue(function (allSent) { … })
+
+    /// `{apiKey, collectorId | surveyId, zone, environment}`: environment "production"
+    /// (the default) or "uat"; a survey id wins over a collector id.
+    Q_INVOKABLE void configure(const QVariantMap &options);
+    /// Any of `{primaryColor, backgroundColor, textColor, fontFamily, cornerRadius}`.
+    Q_INVOKABLE void configureTheme(const QVariantMap &theme);
+    /// `{name, email, phone, uniqueId, country, city, region}`; other entries are extra data.
+    Q_INVOKABLE void setUser(const QVariantMap &user);
+    Q_INVOKABLE void fetchAndPresentLowestResponseSurvey(const QStringList &surveyIds, QObject *host);
+    /// Picks this overload for a braced list of ids in C++.
+    void fetchAndPresentLowestResponseSurvey(std::initializer_list<std::string> surveyIds, QObject *host);
+    /// Sends every queued response; then calls `callback(allSent)`, a script function, if given.
+    Q_INVOKABLE void flushQueue(const QVariant &callback);
+    /// How many responses wait in the offline queue.
+    Q_INVOKABLE int queuedResponseCount() const;
 
     // The manager's state, read-only.
     const std::optional<TovuSurvey> &survey() const;

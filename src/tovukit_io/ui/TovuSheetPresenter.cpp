@@ -220,6 +220,11 @@ QObject *TovuSheetPresenter::sheet() const
     return m_sheet;
 }
 
+TovuToasterView *TovuSheetPresenter::toasterView() const
+{
+    return m_sheet;
+}
+
 void TovuSheetPresenter::prepare(const TovuSurvey &survey, TovuPageRequest firstQuestion)
 {
     // What is loaded (font files, glyph caches, style data) is shared by the process.

@@ -35,7 +35,7 @@ public:
     /// screen, one per turn of the event loop.
     void prepare(const TovuSurvey &survey, TovuPageRequest firstQuestion) override;
 
-    TovuToasterView *toasterView() const { return m_sheet; }
+    TovuToasterView *toasterView() const;
 
     /// The view for one page, not yet in a sheet.
     static QWidget *createPage(TovuPageRequest request, TovuUrlOpener *urlOpener = nullptr);

@@ -2,6 +2,7 @@
 
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
+#include <tovukit_io/viewmodel/TovuKeyboardLift.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
@@ -15,7 +16,6 @@
 #include <QScrollArea>
 #include <QScroller>
 #include <QVBoxLayout>
-#include <QVariantAnimation>
 
 #include <algorithm>
 #include <cmath>
@@ -54,39 +54,13 @@ bool isTabStop(const QWidget *widget, const QWidget *within)
         && !widget->focusProxy();
 }
 
-// Runs `apply` from `from` to `to` over `durationMs` with `curve`, then
-// `done`; at once when motion is off.
-QVariantAnimation *animate(QObject *owner, qreal from, qreal to, int durationMs, const QEasingCurve &curve,
-                           std::function<void(qreal)> apply, std::function<void()> done = {})
-{
-    if (durationMs <= 0) {
-        apply(to);
-        if (done)
-            done();
-        return nullptr;
-    }
-    auto *animation = new QVariantAnimation(owner);
-    animation->setStartValue(from);
-    animation->setEndValue(to);
-    animation->setDuration(durationMs);
-    animation->setEasingCurve(curve);
-    QObject::connect(animation, &QVariantAnimation::valueChanged, owner,
-                     [apply](const QVariant &value) { apply(value.toReal()); });
-    QObject::connect(animation, &QVariantAnimation::finished, owner, [apply, to, done] {
-        apply(to);
-        if (done)
-            done();
-    });
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
-    return animation;
-}
-
 } // namespace
 
 TovuToasterView::TovuToasterView(std::optional<TovuSurvey> survey, QWidget *parent)
     : QWidget(parent)
     , m_survey(std::move(survey))
 {
+    m_keyboardLift = new TovuKeyboardLift([this](qreal offset) { setBottomOffset(offset); }, this);
     if (m_survey && m_survey->theme && m_survey->theme->transparency)
         m_dimmingAlpha = std::clamp(static_cast<qreal>(*m_survey->theme->transparency), 0.0, 1.0);
     setAttribute(Qt::WA_NoSystemBackground);
@@ -157,16 +131,16 @@ void TovuToasterView::present(QWidget *host)
     setParent(host);
     setGeometry(host->rect());
     host->installEventFilter(this);
-    trackKeyboard(true);
+    m_keyboardLift->setTracking(true);
     setTranslation(Metrics::offscreenDistance);
     show();
     raise();
     // Keys go to the sheet from now on; the sheet swallows what its controls do not take.
     setFocus(Qt::OtherFocusReason);
     // The dimming layer is there at once; only the panel moves.
-    animate(this, Metrics::offscreenDistance, 0, TovuMotion::durationMs(Metrics::presentSeconds),
-            TovuMotion::spring(Metrics::presentDampingRatio, Metrics::presentInitialVelocity),
-            [this](qreal value) { setTranslation(value); });
+    TovuMotion::animate(this, Metrics::offscreenDistance, 0, TovuMotion::durationMs(Metrics::presentSeconds),
+                        TovuMotion::spring(Metrics::presentDampingRatio, Metrics::presentInitialVelocity),
+                        [this](qreal value) { setTranslation(value); });
 }
 
 void TovuToasterView::dismiss()
@@ -175,13 +149,13 @@ void TovuToasterView::dismiss()
         return;
     m_dismissing = true;
     endInput();
-    trackKeyboard(false);
+    m_keyboardLift->setTracking(false);
     if (m_host)
         m_host->removeEventFilter(this);
     auto *fade = new QGraphicsOpacityEffect(this);
     setGraphicsEffect(fade);
     const qreal start = m_translation;
-    animate(
+    TovuMotion::animate(
         this, 0, 1, TovuMotion::durationMs(Metrics::dismissSeconds), QEasingCurve(QEasingCurve::InOutQuad),
         [this, fade, start](qreal progress) {
             setTranslation(start + (Metrics::offscreenDistance - start) * progress);
@@ -300,49 +274,12 @@ void TovuToasterView::setQuestionView(QWidget *view)
 
 void TovuToasterView::keyboardWillShow(const QRectF &keyboardFrame, int durationMs)
 {
-    if (keyboardFrame.isEmpty())
-        return;
-    animateBottomOffset(keyboardFrame.height(), durationMs);
+    m_keyboardLift->keyboardWillShow(keyboardFrame, durationMs);
 }
 
 void TovuToasterView::keyboardWillHide(int durationMs)
 {
-    animateBottomOffset(0, durationMs);
-}
-
-void TovuToasterView::animateBottomOffset(qreal target, int durationMs)
-{
-    if (m_keyboardAnimation)
-        m_keyboardAnimation->stop();
-    // The system's duration, slowed or stopped with every other animation.
-    const int scaled = static_cast<int>(std::max(0, durationMs) * TovuMotion::durationScale());
-    m_keyboardAnimation = animate(this, m_bottomOffset, target, scaled, QEasingCurve(QEasingCurve::OutCubic),
-                                  [this](qreal value) { setBottomOffset(value); });
-}
-
-void TovuToasterView::trackKeyboard(bool on)
-{
-    QInputMethod *inputMethod = QGuiApplication::inputMethod();
-    if (!inputMethod || on == m_trackingKeyboard)
-        return;
-    m_trackingKeyboard = on;
-    if (on)
-        connect(inputMethod, &QInputMethod::keyboardRectangleChanged, this, &TovuToasterView::keyboardRectangleChanged);
-    else
-        disconnect(inputMethod, &QInputMethod::keyboardRectangleChanged, this,
-                   &TovuToasterView::keyboardRectangleChanged);
-}
-
-void TovuToasterView::keyboardRectangleChanged()
-{
-    // Qt does not tell the keyboard's own duration.
-    const int durationMs = static_cast<int>(std::lround(Metrics::keyboardSeconds * 1000));
-    const QInputMethod *inputMethod = QGuiApplication::inputMethod();
-    const QRectF keyboard = inputMethod->keyboardRectangle();
-    if (inputMethod->isVisible() && !keyboard.isEmpty())
-        keyboardWillShow(keyboard, durationMs);
-    else
-        keyboardWillHide(durationMs);
+    m_keyboardLift->keyboardWillHide(durationMs);
 }
 
 void TovuToasterView::setTranslation(qreal translation)

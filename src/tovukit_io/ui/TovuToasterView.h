@@ -11,9 +11,9 @@
 
 class QScrollArea;
 class QVBoxLayout;
-class QVariantAnimation;
 class TovuBox;
 class TovuButton;
+class TovuKeyboardLift;
 
 /// The bottom sheet a native survey is shown in: a dimming layer over the
 /// host widget, and a rounded panel with a grab handle, "Skip" and one slot
@@ -90,9 +90,6 @@ private:
     int panelHeight() const;
     void setTranslation(qreal translation);
     void setBottomOffset(qreal offset);
-    void animateBottomOffset(qreal target, int durationMs);
-    void trackKeyboard(bool on);
-    void keyboardRectangleChanged();
 
     std::optional<TovuSurvey> m_survey;
     QPointer<QWidget> m_host;
@@ -104,10 +101,9 @@ private:
     QScrollArea *m_scrollArea = nullptr;
     QWidget *m_content = nullptr;
     QVBoxLayout *m_contentStack = nullptr;
-    QPointer<QVariantAnimation> m_keyboardAnimation;
+    TovuKeyboardLift *m_keyboardLift = nullptr;
     qreal m_dimmingAlpha = TovuSheetMetrics::defaultDimmingAlpha;
     qreal m_translation = 0;
     qreal m_bottomOffset = 0;
     bool m_dismissing = false;
-    bool m_trackingKeyboard = false;
 };

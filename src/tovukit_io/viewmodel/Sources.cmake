@@ -1,10 +1,12 @@
 # Theme, platform colours, motion and the pages' sizes: what every page reads, in both front ends.
 list(APPEND viewmodel_sources
+  TovuKeyboardLift.cpp
   TovuMotion.cpp
   TovuPlatformColors.cpp
   TovuThemeEngine.cpp)
 list(APPEND viewmodel_headers
   TovuAppTheme.h
+  TovuKeyboardLift.h
   TovuMotion.h
   TovuPageMetrics.h
   TovuPlatformColors.h

@@ -2,6 +2,7 @@
 
 #include <QMutex>
 #include <QPointF>
+#include <QVariantAnimation>
 
 #include <algorithm>
 #include <array>
@@ -138,4 +139,31 @@ QEasingCurve TovuMotion::easeOut()
     QEasingCurve curve(QEasingCurve::BezierSpline);
     curve.addCubicBezierSegment(QPointF(0.0, 0.0), QPointF(0.58, 1.0), QPointF(1.0, 1.0));
     return curve;
+}
+
+QVariantAnimation *TovuMotion::animate(QObject *owner, qreal from, qreal to, int durationMs, const QEasingCurve &curve,
+                                       std::function<void(qreal)> apply, std::function<void()> done)
+{
+    if (durationMs <= 0) {
+        apply(to);
+        if (done)
+            done();
+        return nullptr;
+    }
+    auto *animation = new QVariantAnimation(owner);
+    animation->setStartValue(from);
+    animation->setEndValue(to);
+    animation->setDuration(durationMs);
+    animation->setEasingCurve(curve);
+    QObject::connect(animation, &QVariantAnimation::valueChanged, owner,
+                     [apply](const QVariant &value) { apply(value.toReal()); });
+    // The last frame need not land on `to` exactly.
+    QObject::connect(animation, &QVariantAnimation::finished, owner,
+                     [apply = std::move(apply), to, done = std::move(done)] {
+                         apply(to);
+                         if (done)
+                             done();
+                     });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    return animation;
 }

@@ -2,6 +2,11 @@
 
 #include <QEasingCurve>
 
+#include <functional>
+
+class QObject;
+class QVariantAnimation;
+
 /// One clock for every animation of the kit and the views: durations are given in
 /// seconds and scaled by one global factor, so a host can honour reduced motion and
 /// tests can make every animation finish at once.
@@ -28,6 +33,13 @@ public:
     static QEasingCurve spring(qreal dampingRatio, qreal initialVelocity);
     /// The platform's ease-out curve: a cubic Bézier through (0.58, 1).
     static QEasingCurve easeOut();
+
+    /// Runs `apply` with values from `from` to `to` over `durationMs` (already scaled)
+    /// along `curve`, then `done`; both at once, and no animation, when the duration is
+    /// not positive. The animation belongs to `owner` and ends with it. Returns the
+    /// running animation, or null when it ended at once.
+    static QVariantAnimation *animate(QObject *owner, qreal from, qreal to, int durationMs, const QEasingCurve &curve,
+                                      std::function<void(qreal)> apply, std::function<void()> done = {});
 
     TovuMotion() = delete;
 };

@@ -1,0 +1,54 @@
+import QtQuick
+import TovuKit
+
+// A multiple-choice question: checkbox rows that tick independently, under a hint.
+TovuQuestionPage {
+    id: page
+
+    spacing: TovuPageMetrics.multipleChoiceSpacing
+
+    TovuPageTitle { text: page.model.title }
+
+    Text {
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+        width: parent ? parent.width : 0
+        wrapMode: Text.Wrap
+        textFormat: Text.PlainText
+        text: page.model.hint
+        color: TovuStyle.gray
+        font: TovuStyle.font(TovuPageMetrics.hintFontSize, Font.Normal)
+    }
+
+    Column {
+        width: parent ? parent.width : 0
+        spacing: TovuPageMetrics.optionSpacing
+
+        Repeater {
+            model: page.model.optionIds
+
+            TovuOptionRow {
+                required property int index
+                required property string modelData
+
+                objectName: modelData
+                text: page.model.optionTexts[index]
+                checkbox: true
+                chosen: page.model.selectedIds.indexOf(modelData) >= 0
+                accent: page.accent
+                onTapped: {
+                    page.model.toggleOption(modelData)
+                    // Only a tick bounces; an untick just lets go.
+                    if (page.model.isSelected(modelData))
+                        bounce()
+                }
+            }
+        }
+    }
+
+    TovuPageFooter {
+        model: page.model
+        accent: page.accent
+        spacing: page.spacing
+    }
+}

@@ -1,0 +1,100 @@
+import QtQuick
+import TovuKit
+
+// An answer row with a radio or checkbox mark; chosen rows take the accent.
+Rectangle {
+    id: row
+
+    property string text
+    property bool chosen
+    property bool checkbox
+    property color accent: TovuStyle.primaryColor
+    signal tapped()
+
+    // The press bounce of a row that became chosen.
+    function bounce() { press.restart() }
+
+    width: parent ? parent.width : 0
+    height: TovuPageMetrics.optionRowHeight
+    radius: TovuPageMetrics.optionRowCornerRadius
+    border.width: TovuPageMetrics.optionRowBorderWidth
+    border.color: row.chosen ? row.accent : TovuStyle.gray4
+    color: row.chosen ? TovuStyle.withAlpha(row.accent, TovuPageMetrics.chosenFillAlpha) : TovuStyle.systemBackground
+    activeFocusOnTab: true
+
+    // A checkable button, as a screen reader knows the widget pages' rows.
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: row.text
+    Accessible.checkable: true
+    Accessible.checked: row.chosen
+    Accessible.onPressAction: row.tapped()
+    Accessible.onToggleAction: row.tapped()
+    Keys.onSpacePressed: row.tapped()
+    Keys.onReturnPressed: row.tapped()
+    Keys.onEnterPressed: row.tapped()
+
+    SequentialAnimation {
+        id: press
+        NumberAnimation {
+            target: row; property: "scale"; to: TovuPageMetrics.pressScale
+            duration: TovuStyle.durationMs(TovuPageMetrics.pressSeconds)
+        }
+        NumberAnimation {
+            target: row; property: "scale"; to: 1
+            duration: TovuStyle.durationMs(TovuPageMetrics.pressSeconds)
+        }
+    }
+
+    Rectangle {
+        id: mark
+        anchors.left: parent.left
+        anchors.leftMargin: TovuPageMetrics.markLeading
+        anchors.verticalCenter: parent.verticalCenter
+        width: row.checkbox ? TovuPageMetrics.checkboxSize : TovuPageMetrics.radioSize
+        height: width
+        radius: row.checkbox ? TovuPageMetrics.checkboxCornerRadius : width / 2
+        border.width: row.checkbox ? TovuPageMetrics.checkboxBorderWidth : TovuPageMetrics.radioBorderWidth
+        border.color: row.chosen ? row.accent : TovuStyle.gray3
+        color: row.chosen ? row.accent : "transparent"
+
+        Rectangle {
+            anchors.centerIn: parent
+            visible: row.chosen && !row.checkbox
+            width: TovuPageMetrics.radioDotSize
+            height: width
+            radius: width / 2
+            color: "white"
+        }
+
+        TovuSymbolIcon {
+            anchors.centerIn: parent
+            visible: row.chosen && row.checkbox
+            width: TovuPageMetrics.checkGlyphSize
+            height: width
+            name: "checkmark"
+            weight: Font.DemiBold
+            color: "white"
+        }
+    }
+
+    Text {
+        anchors.left: parent.left
+        anchors.leftMargin: TovuPageMetrics.optionRowInsetLeading
+        anchors.right: parent.right
+        anchors.rightMargin: TovuPageMetrics.optionRowInsetTrailing
+        anchors.verticalCenter: parent.verticalCenter
+        horizontalAlignment: Text.AlignLeft
+        elide: Text.ElideRight
+        textFormat: Text.PlainText
+        text: row.text
+        color: row.chosen ? row.accent : TovuStyle.label
+        font: TovuStyle.font(TovuPageMetrics.optionRowFontSize, Font.Medium)
+        Accessible.ignored: true
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        onPressed: row.forceActiveFocus(Qt.MouseFocusReason)
+        onClicked: row.tapped()
+    }
+}

@@ -1,0 +1,142 @@
+// The same page, laid out by both front ends at a phone's width, puts its title,
+// options, fields and action button in the same places (within 2 px: the two text
+// engines round differently). Both are measured the way a screen reader sees
+// them: by accessible role and name.
+
+#include "TovuQuickSurveyClicker.h"
+
+#include <tovukit_io/quick/TovuQuickPresenter.h>
+#include <tovukit_io/ui/TovuIntroView.h>
+#include <tovukit_io/ui/TovuSheetPresenter.h>
+#include <tovukit_io/viewmodel/TovuMotion.h>
+
+#include <QAccessible>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+constexpr int phoneWidth = 390;
+
+struct Control {
+    QAccessible::Role role;
+    QString name;
+};
+
+std::vector<TovuChoice> options(std::initializer_list<const char *> texts)
+{
+    std::vector<TovuChoice> choices;
+    int index = 0;
+    for (const char *text : texts)
+        choices.push_back({.id = "o" + std::to_string(index++), .text = text});
+    return choices;
+}
+
+// Where `control` sits relative to `page`'s top left corner, or an empty rect.
+QRect placeOf(QObject *root, QPoint pageOrigin, const Control &control)
+{
+    QAccessibleInterface *node = TovuQuickSurveyClicker::node(root, control.role, control.name);
+    return node ? node->rect().translated(-pageOrigin) : QRect();
+}
+
+class FrontEndParity : public testing::Test
+{
+protected:
+    // Pages are compared at rest: the thank-you page zooms in, which moves what it shows.
+    void SetUp() override { TovuMotion::setDurationScale(0); }
+    void TearDown() override { TovuMotion::setDurationScale(1); }
+
+    void compare(const TovuPageRequest &request, const std::vector<Control> &controls)
+    {
+        SCOPED_TRACE(request.question.title);
+        compare([&] { return TovuSheetPresenter::createPage(request); },
+                [&](QQmlEngine *engine) { return TovuQuickPresenter::createPage(engine, request); }, controls);
+    }
+
+    void compare(const std::function<QWidget *()> &makeWidget,
+                 const std::function<QQuickItem *(QQmlEngine *)> &makeItem, const std::vector<Control> &controls)
+    {
+        std::unique_ptr<QWidget> widgetPage(makeWidget());
+        widgetPage->resize(phoneWidth, widgetPage->heightForWidth(phoneWidth));
+        widgetPage->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(widgetPage.get()));
+
+        QQuickWindow window;
+        window.resize(phoneWidth, 844);
+        std::unique_ptr<QQuickItem> quickPage(makeItem(TovuQuickPresenter::engineFor(&window)));
+        ASSERT_TRUE(quickPage);
+        quickPage->setParentItem(window.contentItem());
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return quickPage->height() > 0; }, 2000));
+
+        const QPoint widgetOrigin = widgetPage->mapToGlobal(QPoint());
+        const QPoint quickOrigin = quickPage->mapToGlobal(QPointF()).toPoint();
+        for (const Control &control : controls) {
+            SCOPED_TRACE(control.name.toStdString());
+            const QRect inWidgets = placeOf(widgetPage.get(), widgetOrigin, control);
+            const QRect inQuick = placeOf(quickPage.get(), quickOrigin, control);
+            ASSERT_FALSE(inWidgets.isEmpty()) << "not in the widget page";
+            ASSERT_FALSE(inQuick.isEmpty()) << "not in the Qt Quick page";
+            EXPECT_LE(std::abs(inWidgets.left() - inQuick.left()), 2);
+            EXPECT_LE(std::abs(inWidgets.top() - inQuick.top()), 2);
+            EXPECT_LE(std::abs(inWidgets.width() - inQuick.width()), 2);
+            EXPECT_LE(std::abs(inWidgets.height() - inQuick.height()), 2);
+        }
+    }
+
+    static Control button(const char *name) { return {QAccessible::Button, QString::fromUtf8(name)}; }
+    static Control option(const char *name) { return {QAccessible::CheckBox, QString::fromUtf8(name)}; }
+    static Control text(const char *name) { return {QAccessible::StaticText, QString::fromUtf8(name)}; }
+    static Control field(const char *name) { return {QAccessible::EditableText, QString::fromUtf8(name)}; }
+};
+
+} // namespace
+
+TEST_F(FrontEndParity, QuestionPagesPlaceTheirControlsAlike)
+{
+    const char *title = "How did you hear about Fresh Basket, and what made you try it?";
+    const struct {
+        TovuQuestionType type;
+        bool last;
+        std::vector<Control> controls;
+    } pages[] = {
+        {TovuQuestionType::singleChoice,
+         false,
+         {text(title), option("A friend"), option("An advert"), option("Search"), button("Next \u2192")}},
+        {TovuQuestionType::multipleChoice,
+         true,
+         {text(title), text("Select all that apply"), option("A friend"), option("Search"), button("Submit")}},
+        {TovuQuestionType::dropdown, false, {text(title), button("Select an option")}},
+        {TovuQuestionType::singleTextBox, false, {text(title), field(title), button("Submit")}},
+        {TovuQuestionType::multipleTextBox,
+         false,
+         {text(title), text("A friend"), field("A friend"), field("Search"), button("Submit")}},
+    };
+    for (const auto &page : pages) {
+        TovuQuestion question{
+            .id = "q", .type = page.type, .title = title, .options = options({"A friend", "An advert", "Search"})};
+        compare(TovuPageRequest{.question = question, .isLastQuestion = page.last}, page.controls);
+    }
+}
+
+TEST_F(FrontEndParity, IntroAndThankYouPagesPlaceTheirTextsAlike)
+{
+    const TovuQuestion thankYou{.id = "thank_you_auto",
+                                .type = TovuQuestionType::thankYou,
+                                .title = "Thanks a lot!",
+                                .subtitle = "We read every answer."};
+    compare(TovuPageRequest{.question = thankYou}, {text("Thanks a lot!"), text("We read every answer.")});
+
+    const TovuSurveyPage intro{
+        .enabled = true, .content = "Three short questions about your last order.", .buttonText = "Start"};
+    compare([&] { return new TovuIntroView(intro); },
+            [&](QQmlEngine *engine) { return TovuQuickPresenter::createIntroPage(engine, intro, {}); },
+            {text("Three short questions about your last order."), button("Start")});
+}

@@ -1,0 +1,154 @@
+#include "TovuFrontEndPairs.h"
+
+#include "TovuQuestionSamples.h"
+
+#include <tovukit_io/quick/TovuQuickPresenter.h>
+#include <tovukit_io/quick/TovuQuickSheet.h>
+#include <tovukit_io/ui/TovuSheetPresenter.h>
+#include <tovukit_io/ui/TovuToasterView.h>
+#include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QQuickWindow>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+constexpr QSize phone(390, 844);
+constexpr int gap = 24;
+
+struct Pair {
+    const char *name;
+    TovuQuestion question;
+    /// What the respondent did before the picture, through the page's model.
+    std::function<void(QObject *model)> act;
+};
+
+std::vector<Pair> pairs()
+{
+    using Samples = TovuQuestionSamples;
+    const auto pick = [](int index) {
+        return [index](QObject *model) {
+            qobject_cast<TovuSingleChoiceQuestionViewModel *>(model)->selectOption(index);
+        };
+    };
+    return {
+        {"single-choice",
+         {.id = "delivery",
+          .type = TovuQuestionType::singleChoice,
+          .title = "How was the delivery of your order?",
+          .isRequired = true,
+          .options = Samples::choices("opt-", {"Faster than expected", "On time", "A little late"})},
+         pick(1)},
+        {"multiple-choice",
+         {.id = "features",
+          .type = TovuQuestionType::multipleChoice,
+          .title = "Which features do you use most?",
+          .options = Samples::choices("opt-", {"Order tracking", "Wish list", "Gift cards"})},
+         [](QObject *model) {
+             qobject_cast<TovuMultipleChoiceQuestionViewModel *>(model)->toggleOption(QStringLiteral("opt-1"));
+         }},
+        {"dropdown-open",
+         {.id = "city",
+          .type = TovuQuestionType::dropdown,
+          .title = "Where do you usually shop with us?",
+          .options = Samples::choices("opt-", {"Amsterdam", "Berlin", "Lisbon", "Nairobi"})},
+         [](QObject *model) {
+             auto *dropdown = qobject_cast<TovuDropdownQuestionViewModel *>(model);
+             dropdown->chooseOption(1);
+             dropdown->toggleExpanded();
+         }},
+        {"text-boxes",
+         {.id = "contact",
+          .type = TovuQuestionType::multipleTextBox,
+          .title = "How can we reach you about your feedback?",
+          .isRequired = true},
+         [](QObject *model) {
+             qobject_cast<TovuQuestionViewModel *>(model)->submit();
+         }},
+        {"thank-you",
+         {.id = "thank_you_auto",
+          .type = TovuQuestionType::thankYou,
+          .title = "Thank You!",
+          .subtitle = "Your feedback is greatly appreciated."},
+         {}},
+    };
+}
+
+TovuSurvey surveyOf(const TovuQuestion &question)
+{
+    return TovuSurvey{.id = "pair", .name = "Pair", .questions = {question}};
+}
+
+QImage widgetsShot(const Pair &pair)
+{
+    QWidget host;
+    host.resize(phone);
+    host.setAutoFillBackground(true);
+    host.show();
+    TovuSheetPresenter presenter;
+    presenter.present(surveyOf(pair.question), &host);
+    presenter.showQuestion(TovuPageRequest{.question = pair.question});
+    QApplication::processEvents();
+    QWidget *page = presenter.toasterView()->contentStackView()->itemAt(0)->widget();
+    if (pair.act)
+        pair.act(page->findChild<TovuQuestionViewModel *>());
+    QApplication::processEvents();
+    return host.grab().toImage();
+}
+
+QImage quickShot(const Pair &pair)
+{
+    QQuickWindow window;
+    window.resize(phone);
+    window.setColor(TovuPlatformColors::color(TovuPlatformColors::Role::systemBackground));
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+        return {};
+    TovuQuickPresenter presenter;
+    presenter.present(surveyOf(pair.question), &window);
+    presenter.showQuestion(TovuPageRequest{.question = pair.question});
+    QQuickItem *page = presenter.quickSheet()->currentPage();
+    if (pair.act && page)
+        pair.act(page->property("model").value<QObject *>());
+    QTest::qWait(50);
+    return window.grabWindow();
+}
+
+bool save(const QImage &left, const QImage &right, const QString &path)
+{
+    const qreal ratio = left.devicePixelRatio();
+    QImage both(left.width() + right.width() + qRound(gap * ratio), std::max(left.height(), right.height()),
+                QImage::Format_ARGB32_Premultiplied);
+    both.fill(Qt::gray);
+    QPainter painter(&both);
+    painter.drawImage(0, 0, left);
+    painter.drawImage(left.width() + qRound(gap * ratio), 0, right);
+    painter.end();
+    const bool saved = both.save(path);
+    std::printf("%s %s\n", saved ? "wrote" : "could not write", qPrintable(path));
+    return saved;
+}
+
+} // namespace
+
+bool TovuFrontEndPairs::shoot(const QDir &out, const char *mode)
+{
+    bool ok = true;
+    for (const Pair &pair : pairs()) {
+        const QString file
+            = QStringLiteral("pair-%1-%2.png").arg(QLatin1StringView(pair.name), QLatin1StringView(mode));
+        ok &= save(widgetsShot(pair), quickShot(pair), out.filePath(file));
+    }
+    return ok;
+}
