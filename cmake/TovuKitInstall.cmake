@@ -37,6 +37,7 @@ if(web_layers)
     EXPORT tovukit_ioWebTargets
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/tovukit_io/objects
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   install(EXPORT tovukit_ioWebTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
 endif()

@@ -29,6 +29,24 @@ function(tovukit_apply_settings target)
   endif()
 endfunction()
 
+# A QML module's target and its OUTPUT_TARGETS compile C++ that Qt writes (the
+# QML files compiled ahead of time, their loader, the resources) with the
+# module's warning flags. Qt's code trips some of them (shadowed lambda
+# parameters; null dereferences GCC imagines in inlined QHash code at -O3), and
+# it is not ours to fix, so it is compiled without warnings.
+function(tovukit_quiet_generated_qml)
+  if(NOT CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    return()
+  endif()
+  foreach(target IN LISTS ARGN)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/\\.rcc/.*\\.cpp$")
+    if(sources)
+      set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+    endif()
+  endforeach()
+endfunction()
+
 # One layer of the library: a static target named tovukit_<layer> whose public
 # headers live beside its sources and are included as <tovukit_io/<layer>/X.h>.
 # GROUP names the global list the layer joins (default TOVUKIT_LAYERS, which the

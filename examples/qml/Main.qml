@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Window
-import TovuKit 1.0
+import TovuKit.Web
 
 Window {
     id: window

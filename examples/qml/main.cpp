@@ -1,11 +1,11 @@
 // A Qt Quick host of the web survey: Main.qml embeds TovuSwiftUIWrapper and
-// offers the full-screen and lowest-response presentations.
+// offers the full-screen and lowest-response presentations. Linking
+// tovukit::tovukit_web is all it takes for `import TovuKit.Web`.
 //
 //   tovu-devserver --port 8787 &
 //   tovu-qml-example http://127.0.0.1:8787 [survey-id ...]
 
 #include <tovukit_io/network/TovuNetworkService.h>
-#include <tovukit_io/web/TovuSwiftUIWrapper.h>
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
@@ -28,7 +28,6 @@ int main(int argc, char **argv)
     // The response-count call goes to the local backend too.
     TovuNetworkService::shared().setBaseURLOverride(backend.toStdString());
 
-    TovuSwiftUIWrapper::registerQmlTypes();
     QQmlApplicationEngine engine;
     engine.rootContext()->setContextProperty(QStringLiteral("backend"), backend);
     engine.rootContext()->setContextProperty(QStringLiteral("surveyIds"), arguments);

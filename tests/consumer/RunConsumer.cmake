@@ -1,4 +1,5 @@
-# Builds and runs the host project of MODE (installed | subdirectory).
+# Builds and runs the host project of MODE (installed | subdirectory), found in
+# the folder HOST (default: the folder named as MODE).
 cmake_minimum_required(VERSION 3.25)
 
 function(run)
@@ -10,7 +11,10 @@ function(run)
 endfunction()
 
 file(REMOVE_RECURSE "${WORK_DIR}")
-set(host_dir "${CMAKE_CURRENT_LIST_DIR}/${MODE}")
+if(NOT HOST)
+  set(HOST ${MODE})
+endif()
+set(host_dir "${CMAKE_CURRENT_LIST_DIR}/${HOST}")
 set(build_dir "${WORK_DIR}/build")
 set(configure_args -S "${host_dir}" -B "${build_dir}" -G Ninja -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_BUILD_TYPE=Release)
 

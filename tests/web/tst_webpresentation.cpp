@@ -204,15 +204,15 @@ TEST_F(WebPresentationTest, LowestResponseSurveyIsPresented)
 }
 
 // The Qt Quick wrapper: embedded with its properties, the close button through
-// the two-way visibility, and the full-screen class operation.
+// the two-way visibility, and the full-screen class operation. Nothing here
+// registers the module or adds an import path: linking tovukit_web must be enough.
 TEST_F(WebPresentationTest, QmlWrapperEmbedsAndPresents)
 {
-    TovuSwiftUIWrapper::registerQmlTypes();
     QQmlEngine engine;
     QQmlComponent component(&engine);
     component.setData(QByteArrayLiteral(R"QML(
         import QtQuick
-        import TovuKit 1.0
+        import TovuKit.Web
         Item {
             id: root
             width: 390; height: 844

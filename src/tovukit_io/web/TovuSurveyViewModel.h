@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QUrl>
 #include <QVariantMap>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 class TovuSurveyDelegate;
 class TovuUrlOpener;
@@ -23,6 +24,8 @@ class TovuSurveyViewModel : public QObject
                    getSurveyLoadedResponseChanged)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY loadingChanged)
     Q_PROPERTY(bool isCloseButtonVisible READ isCloseButtonVisible NOTIFY closeButtonVisibleChanged)
+    QML_ELEMENT
+    QML_UNCREATABLE("Each TovuSwiftUIWrapper has its own")
 
 public:
     /// A page that has not finished loading by then counts as failed.

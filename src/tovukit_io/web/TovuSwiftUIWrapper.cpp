@@ -13,102 +13,10 @@
 
 namespace {
 
-// What the wrapper shows: the web view, the spinner over it and the close
-// button. Built from text so the library needs no QML files of its own at run time.
-constexpr QLatin1StringView contentSource{R"QML(
-import QtQuick
-import QtWebEngine
-
-Item {
-    id: root
-    required property QtObject model
-    required property QtObject channel
-    required property var scripts
-    property color background: "white"
-    property color closeColor: "black"
-    property color spinnerColor: "#8E8E93"
-
-    function load(address) { web.url = address }
-    function empty() { web.loadHtml("<html><body></body></html>") }
-    function stop() { web.stop() }
-
-    Rectangle { anchors.fill: parent; color: root.background }
-
-    WebEngineView {
-        id: web
-        objectName: "surveyWebView"
-        anchors.fill: parent
-        webChannel: root.channel
-        webChannelWorld: WebEngineScript.ApplicationWorld
-        Component.onCompleted: userScripts.collection = root.scripts
-        onLoadingChanged: function (info) {
-            if (info.status === WebEngineView.LoadSucceededStatus)
-                root.model.pageFinished()
-            else if (info.status === WebEngineView.LoadFailedStatus)
-                root.model.pageFailed(info.errorString)
-        }
-        onNavigationRequested: function (request) {
-            const clicked = request.navigationType === WebEngineNavigationRequest.LinkClickedNavigation
-            if (!root.model.acceptNavigation(request.url, clicked))
-                request.reject()
-        }
-        onNewWindowRequested: function (request) {
-            if (request.userInitiated)
-                root.model.acceptNavigation(request.requestedUrl, true)
-        }
-    }
-
-    Item {
-        id: loader
-        objectName: "loader"
-        width: 24; height: 24
-        anchors.centerIn: parent
-        visible: root.model.isLoading
-        property int step: 0
-        Timer { interval: 83; repeat: true; running: loader.visible; onTriggered: loader.step = (loader.step + 1) % 12 }
-        Repeater {
-            model: 12
-            Rectangle {
-                required property int index
-                x: loader.width / 2 - width / 2; y: 1
-                width: 2.6; height: 6.6; radius: 1.3
-                color: root.spinnerColor
-                opacity: 1 - 0.75 * ((loader.step - index + 12) % 12) / 11
-                transform: Rotation { origin.x: 1.3; origin.y: loader.height / 2 - 1; angle: index * 30 }
-            }
-        }
-    }
-
-    Text {
-        id: closeButton
-        objectName: "closeButton"
-        text: "X"
-        font.pixelSize: 20
-        color: root.closeColor
-        width: 30; height: 30
-        horizontalAlignment: Text.AlignHCenter; verticalAlignment: Text.AlignVCenter
-        anchors { top: parent.top; topMargin: 10; right: parent.right; rightMargin: 10 }
-        visible: root.model.isCloseButtonVisible
-        Accessible.role: Accessible.Button
-        Accessible.name: "Close survey"
-        MouseArea { anchors.fill: parent; onClicked: root.model.closeTapped() }
-    }
-}
-)QML"};
-
-QQmlComponent *contentComponent(QQmlEngine *engine)
+// What the wrapper shows (qml/TovuSurveyContent.qml), where the module puts it.
+QUrl contentUrl()
 {
-    // One compiled component per engine.
-    static const char *property = "_tovukit_surveyContent";
-    if (auto *component = engine->property(property).value<QQmlComponent *>())
-        return component;
-    auto *component = new QQmlComponent(engine, engine);
-    component->setData(QByteArray(contentSource.data(), contentSource.size()),
-                       QUrl(QStringLiteral("qrc:/tovukit/web/TovuSurveyContent.qml")));
-    if (component->isError())
-        TovuLog::print(">>> Web survey view cannot be built: " + component->errorString().toStdString());
-    engine->setProperty(property, QVariant::fromValue(component));
-    return component;
+    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/TovuKit/Web/TovuSurveyContent.qml"));
 }
 
 std::optional<QColor> colorIn(const QVariantMap &map, const QString &key)
@@ -121,13 +29,6 @@ std::optional<QColor> colorIn(const QVariantMap &map, const QString &key)
 }
 
 } // namespace
-
-void TovuSwiftUIWrapper::registerQmlTypes()
-{
-    qmlRegisterType<TovuSwiftUIWrapper>("TovuKit", 1, 0, "TovuSwiftUIWrapper");
-    qmlRegisterUncreatableType<TovuSurveyViewModel>("TovuKit", 1, 0, "TovuSurveyViewModel",
-                                                    QStringLiteral("Each TovuSwiftUIWrapper has its own"));
-}
 
 TovuSwiftUIWrapperAttached *TovuSwiftUIWrapper::qmlAttachedProperties(QObject *object)
 {
@@ -169,15 +70,18 @@ void TovuSwiftUIWrapper::componentComplete()
 
 void TovuSwiftUIWrapper::build(QQmlEngine *engine)
 {
-    QQmlComponent *component = contentComponent(engine);
-    if (!component->isReady())
+    // The engine keeps the compiled file, so a component per wrapper costs little.
+    QQmlComponent component(engine, contentUrl());
+    if (!component.isReady()) {
+        TovuLog::print(">>> Web survey view cannot be built: " + component.errorString().toStdString());
         return;
+    }
     const QVariantMap properties{
         {QStringLiteral("model"), QVariant::fromValue(m_viewModel)},
         {QStringLiteral("channel"), QVariant::fromValue(m_channel)},
         {QStringLiteral("scripts"), TovuUserContentController::scriptDescriptions()},
     };
-    QObject *object = component->createWithInitialProperties(properties, qmlContext(this));
+    QObject *object = component.createWithInitialProperties(properties, qmlContext(this));
     m_content = qobject_cast<QQuickItem *>(object);
     if (!m_content) {
         delete object;

@@ -17,14 +17,15 @@ class TovuSwiftUIWrapperAttached;
 class TovuUserContentController;
 
 /// The web survey as a Qt Quick item, `TovuSwiftUIWrapper` in the QML module
-/// `TovuKit` (register it once with registerQmlTypes()). It loads `surveyURL`
-/// when it is made and again whenever the address changes, reports load events
-/// to `delegate` (any object with a `handleSurveyLoaded(response)` function)
-/// and through the signal `surveyLoaded(response)`, and sets `isSurveyVisible`
-/// to false when its close button is tapped.
+/// `TovuKit.Web`; linking tovukit::tovukit_web is all it takes to import it (no
+/// registration call, no import path). It loads `surveyURL` when it is made and
+/// again whenever the address changes, reports load events to `delegate` (any
+/// object with a `handleSurveyLoaded(response)` function) and through the
+/// signal `surveyLoaded(response)`, and sets `isSurveyVisible` to false when
+/// its close button is tapped.
 ///
 /// \qml
-/// import TovuKit
+/// import TovuKit.Web
 ///
 /// TovuSwiftUIWrapper {
 ///     anchors.fill: parent
@@ -50,11 +51,10 @@ class TovuSwiftUIWrapper : public QQuickItem, public TovuSurveyDelegate
     Q_PROPERTY(bool isSurveyVisible READ isSurveyVisible WRITE setSurveyVisible NOTIFY isSurveyVisibleChanged)
     Q_PROPERTY(QVariantMap theme READ themeMap WRITE setThemeMap NOTIFY themeChanged)
     Q_PROPERTY(TovuSurveyViewModel *viewModel READ viewModel CONSTANT)
+    QML_ELEMENT
     QML_ATTACHED(TovuSwiftUIWrapperAttached)
 
 public:
-    /// Registers `TovuSwiftUIWrapper` in the module `TovuKit` 1.0.
-    static void registerQmlTypes();
     static TovuSwiftUIWrapperAttached *qmlAttachedProperties(QObject *object);
 
     explicit TovuSwiftUIWrapper(QQuickItem *parent = nullptr);

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 class QQuickWindow;
 
@@ -13,6 +14,7 @@ class QQuickWindow;
 class TovuSwiftUIWrapperAttached : public QObject
 {
     Q_OBJECT
+    QML_ANONYMOUS
 
 public:
     explicit TovuSwiftUIWrapperAttached(QObject *attachee);
