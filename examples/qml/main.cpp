@@ -1,6 +1,7 @@
-// A Qt Quick host of the web survey: Main.qml embeds TovuSwiftUIWrapper and
-// offers the full-screen and lowest-response presentations. Linking
-// tovukit::tovukit_web is all it takes for `import TovuKit.Web`.
+// A Qt Quick host of both ways to show a survey: the native sheet from
+// `import TovuKit` (linking tovukit::tovukit_quick is all it takes) and the web
+// survey from `import TovuKit.Web` (tovukit::tovukit_web), embedded, full screen
+// or by fewest responses.
 //
 //   tovu-devserver --port 8787 &
 //   tovu-qml-example http://127.0.0.1:8787 [survey-id ...]
@@ -25,7 +26,7 @@ int main(int argc, char **argv)
     const QString backend = arguments.isEmpty() ? QStringLiteral("http://127.0.0.1:8787") : arguments.takeFirst();
     if (arguments.isEmpty())
         arguments = {QStringLiteral("03ce355f-163d-420a-9980-f630e7af337c")};
-    // The response-count call goes to the local backend too.
+    // Every call goes to the local backend, the native survey's and the response count.
     TovuNetworkService::shared().setBaseURLOverride(backend.toStdString());
 
     QQmlApplicationEngine engine;

@@ -125,9 +125,12 @@ QImage quickShot(const Pair &pair)
     return window.grabWindow();
 }
 
-bool save(const QImage &left, const QImage &right, const QString &path)
+bool save(QImage left, QImage right, const QString &path)
 {
+    // Side by side in device pixels: the pair is a picture of both at the same scale.
     const qreal ratio = left.devicePixelRatio();
+    left.setDevicePixelRatio(1);
+    right.setDevicePixelRatio(1);
     QImage both(left.width() + right.width() + qRound(gap * ratio), std::max(left.height(), right.height()),
                 QImage::Format_ARGB32_Premultiplied);
     both.fill(Qt::gray);

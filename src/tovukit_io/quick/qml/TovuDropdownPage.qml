@@ -76,6 +76,18 @@ TovuQuestionPage {
         border.color: TovuStyle.gray4
         color: TovuStyle.systemBackground
 
+        TovuBoxShadow {
+            z: -1
+            x: -spread
+            y: offsetY - spread
+            width: list.width + 2 * spread
+            height: list.height + 2 * spread
+            cornerRadius: list.radius
+            offsetY: TovuPageMetrics.listShadowOffsetY
+            blurRadius: TovuPageMetrics.listShadowRadius
+            color: Qt.rgba(0, 0, 0, TovuPageMetrics.listShadowOpacity)
+        }
+
         Column {
             id: options
             x: TovuPageMetrics.listInset
