@@ -2,45 +2,36 @@
 # target_link_libraries(app PRIVATE tovukit::tovukit_io).
 include(CMakePackageConfigHelpers)
 
-get_property(layers GLOBAL PROPERTY TOVUKIT_LAYERS)
-install(TARGETS ${layers} tovukit_io
-  EXPORT tovukit_ioTargets
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/tovukit_io/objects
-  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tovukit_io)
+
+# The targets of one group (with the object files some link whole) as an export
+# set of the package, when the group has any.
+function(tovukit_install_group group export)
+  get_property(targets GLOBAL PROPERTY ${group})
+  if(NOT targets)
+    return()
+  endif()
+  install(TARGETS ${targets} ${ARGN}
+    EXPORT ${export}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/tovukit_io/objects
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(EXPORT ${export} NAMESPACE tovukit:: DESTINATION ${config_dir})
+endfunction()
+
+tovukit_install_group(TOVUKIT_LAYERS tovukit_ioTargets tovukit_io)
 
 # Each layer installs its own headers (tovukit_add_layer).
 get_property(umbrella GLOBAL PROPERTY TOVUKIT_HEADERS_umbrella)
 install(FILES ${umbrella} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tovukit_io)
 
-set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tovukit_io)
-install(EXPORT tovukit_ioTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
+# The Qt Quick front end and the web path have export sets of their own, loaded by
+# the package config only where their Qt modules are found:
+# find_package(tovukit_io COMPONENTS quick web).
+tovukit_install_group(TOVUKIT_QUICK_LAYERS tovukit_ioQuickTargets)
+tovukit_install_group(TOVUKIT_WEB_LAYERS tovukit_ioWebTargets)
 
-# The Qt Quick front end too: find_package(tovukit_io COMPONENTS quick).
-get_property(quick_layers GLOBAL PROPERTY TOVUKIT_QUICK_LAYERS)
-if(quick_layers)
-  install(TARGETS ${quick_layers}
-    EXPORT tovukit_ioQuickTargets
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/tovukit_io/objects
-    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-  install(EXPORT tovukit_ioQuickTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
-endif()
-
-# The web path has an export set of its own, loaded by the package config only
-# where QtWebEngine is found: find_package(tovukit_io COMPONENTS web).
-get_property(web_layers GLOBAL PROPERTY TOVUKIT_WEB_LAYERS)
-if(web_layers)
-  install(TARGETS ${web_layers}
-    EXPORT tovukit_ioWebTargets
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/tovukit_io/objects
-    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-  install(EXPORT tovukit_ioWebTargets NAMESPACE tovukit:: DESTINATION ${config_dir})
-endif()
 configure_package_config_file(
   ${PROJECT_SOURCE_DIR}/cmake/tovukit_ioConfig.cmake.in
   ${PROJECT_BINARY_DIR}/tovukit_ioConfig.cmake

@@ -102,12 +102,10 @@ QQuickItem *coverFor(QObject *host)
 } // namespace
 
 TovuQuickPresenter::TovuQuickPresenter(TovuUrlOpener *urlOpener)
-    : m_context(std::make_unique<QObject>())
+    : m_open(*this)
     , m_urlOpener(urlOpener)
 { }
 
-// The sheets belong to their hosts and may outlive the presenter; the
-// context's end cuts every connection back to it.
 TovuQuickPresenter::~TovuQuickPresenter() = default;
 
 std::unique_ptr<TovuSurveyPresenter> TovuQuickFrontEnd::createPresenter(TovuUrlOpener *urlOpener)
@@ -181,19 +179,8 @@ bool TovuQuickPresenter::present(const TovuSurvey &survey, QObject *host)
     TovuQuickSheet *sheet = createSheet(engine, survey);
     if (!sheet)
         return false;
-    if (m_sheet)
-        m_sheet->dismiss();
     sheet->setParent(cover);
-    sheet->onSkip = [this, alive = QPointer<QObject>(m_context.get())] {
-        if (alive && onSkip)
-            onSkip();
-    };
-    QObject::connect(sheet, &QObject::destroyed, m_context.get(), [this, sheet] {
-        // A sheet replaced by a newer one closes quietly.
-        if ((!m_sheet || m_sheet.data() == sheet) && onDismissed)
-            onDismissed();
-    });
-    m_sheet = sheet;
+    m_open.replaceWith(sheet);
     m_engine = engine;
     sheet->present(cover);
     return true;
@@ -238,38 +225,42 @@ QQuickItem *TovuQuickPresenter::createPage(QQmlEngine *engine, TovuPageRequest r
 
 void TovuQuickPresenter::showPage(QQuickItem *page)
 {
-    if (m_sheet)
-        m_sheet->setQuestionView(page);
+    if (m_open.get())
+        m_open.get()->setQuestionView(page);
     else
         delete page;
 }
 
 void TovuQuickPresenter::showIntro(const TovuSurveyPage &page, std::function<void()> onStart)
 {
-    if (m_sheet && m_engine)
+    if (m_open.get() && m_engine)
         showPage(createIntroPage(m_engine, page, std::move(onStart)));
 }
 
 void TovuQuickPresenter::showQuestion(TovuPageRequest request)
 {
-    if (m_sheet && m_engine)
+    if (m_open.get() && m_engine)
         showPage(createPage(m_engine, std::move(request), m_urlOpener));
 }
 
 void TovuQuickPresenter::dismiss()
 {
-    if (m_sheet)
-        m_sheet->dismiss();
+    m_open.dismiss();
 }
 
 bool TovuQuickPresenter::isPresenting() const
 {
-    return m_sheet && !m_sheet->isDismissing();
+    return m_open.isPresenting();
 }
 
 QObject *TovuQuickPresenter::sheet() const
 {
-    return m_sheet;
+    return m_open.get();
+}
+
+TovuQuickSheet *TovuQuickPresenter::quickSheet() const
+{
+    return m_open.get();
 }
 
 void TovuQuickPresenter::prepare(const TovuSurvey &survey, TovuPageRequest firstQuestion)
@@ -292,7 +283,7 @@ void TovuQuickPresenter::prepare(const TovuSurvey &survey, TovuPageRequest first
         steps.emplace_back([engine, intro = *survey.introPage] { return createIntroPage(engine, intro, {}); });
     steps.emplace_back([engine, firstQuestion] { return createPage(engine, firstQuestion); });
     for (auto &step : steps) {
-        TovuManagerSupport::later(m_context.get(), [engine, step = std::move(step)] {
+        TovuManagerSupport::later(m_open.context(), [engine, step = std::move(step)] {
             if (engine)
                 delete step();
         });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tovukit_io/core/TovuOpenSheet.h>
 #include <tovukit_io/core/TovuSurveyPresenter.h>
 
 #include <QPointer>
@@ -38,7 +39,7 @@ public:
     /// Qt Quick window, and builds and lays them out once off screen.
     void prepare(const TovuSurvey &survey, TovuPageRequest firstQuestion) override;
 
-    TovuQuickSheet *quickSheet() const { return m_sheet; }
+    TovuQuickSheet *quickSheet() const;
 
     /// The engine pages for `host` are made in.
     static QQmlEngine *engineFor(QObject *host);
@@ -53,8 +54,7 @@ public:
 private:
     void showPage(QQuickItem *page);
 
-    std::unique_ptr<QObject> m_context;
-    QPointer<TovuQuickSheet> m_sheet;
+    TovuOpenSheet<TovuQuickSheet> m_open;
     QPointer<QQmlEngine> m_engine;
     TovuUrlOpener *m_urlOpener;
 };

@@ -146,12 +146,10 @@ void paintInTurns(QObject *context, std::shared_ptr<PageMakers> pages, const Tov
 } // namespace
 
 TovuSheetPresenter::TovuSheetPresenter(TovuUrlOpener *urlOpener)
-    : m_context(std::make_unique<QObject>())
+    : m_open(*this)
     , m_urlOpener(urlOpener)
 { }
 
-// The sheets belong to their hosts and may outlive the presenter; the
-// context's end cuts every connection back to it.
 TovuSheetPresenter::~TovuSheetPresenter() = default;
 
 QWidget *TovuSheetPresenter::createPage(TovuPageRequest request, TovuUrlOpener *urlOpener)
@@ -170,59 +168,45 @@ bool TovuSheetPresenter::present(const TovuSurvey &survey, QObject *host)
 {
     if (!canPresent(host))
         return false;
-    auto *hostWidget = static_cast<QWidget *>(host);
-    if (m_sheet)
-        m_sheet->dismiss();
     auto *sheet = new TovuToasterView(survey);
-    sheet->onSkip = [this, alive = QPointer<QObject>(m_context.get())] {
-        if (alive && onSkip)
-            onSkip();
-    };
-    QObject::connect(sheet, &QObject::destroyed, m_context.get(), [this, sheet] {
-        // A sheet replaced by a newer one closes quietly. (A widget tells of its
-        // end before QPointers to it are cleared, so compare addresses.)
-        if ((!m_sheet || m_sheet.data() == sheet) && onDismissed)
-            onDismissed();
-    });
-    m_sheet = sheet;
-    sheet->present(hostWidget);
+    m_open.replaceWith(sheet);
+    sheet->present(static_cast<QWidget *>(host));
     return true;
 }
 
 void TovuSheetPresenter::showIntro(const TovuSurveyPage &page, std::function<void()> onStart)
 {
-    if (!m_sheet)
+    if (!m_open.get())
         return;
     auto *intro = new TovuIntroView(page);
     intro->onStart = std::move(onStart);
-    m_sheet->setQuestionView(intro);
+    m_open.get()->setQuestionView(intro);
 }
 
 void TovuSheetPresenter::showQuestion(TovuPageRequest request)
 {
-    if (m_sheet)
-        m_sheet->setQuestionView(createPage(std::move(request), m_urlOpener));
+    if (m_open.get())
+        m_open.get()->setQuestionView(createPage(std::move(request), m_urlOpener));
 }
 
 void TovuSheetPresenter::dismiss()
 {
-    if (m_sheet)
-        m_sheet->dismiss();
+    m_open.dismiss();
 }
 
 bool TovuSheetPresenter::isPresenting() const
 {
-    return m_sheet && !m_sheet->isDismissing();
+    return m_open.isPresenting();
 }
 
 QObject *TovuSheetPresenter::sheet() const
 {
-    return m_sheet;
+    return m_open.get();
 }
 
 TovuToasterView *TovuSheetPresenter::toasterView() const
 {
-    return m_sheet;
+    return m_open.get();
 }
 
 void TovuSheetPresenter::prepare(const TovuSurvey &survey, TovuPageRequest firstQuestion)
@@ -241,8 +225,8 @@ void TovuSheetPresenter::prepare(const TovuSurvey &survey, TovuPageRequest first
         pages->push_back([intro = *survey.introPage] { return new TovuIntroView(intro); });
     pages->push_back([firstQuestion = std::move(firstQuestion)] { return createPage(firstQuestion); });
     TovuManagerSupport::inBackground(
-        m_context.get(), [] { return (loadFonts(), true); },
-        [context = m_context.get(), pages, survey](bool) { prepareInTurns(context, pages, survey); });
+        m_open.context(), [] { return (loadFonts(), true); },
+        [context = m_open.context(), pages, survey](bool) { prepareInTurns(context, pages, survey); });
 }
 
 std::unique_ptr<TovuSurveyPresenter> TovuWidgetsFrontEnd::createPresenter(TovuUrlOpener *urlOpener)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tovukit_io/core/TovuOpenSheet.h>
 #include <tovukit_io/core/TovuSurveyPresenter.h>
 
 #include <QPointer>
@@ -41,7 +42,6 @@ public:
     static QWidget *createPage(TovuPageRequest request, TovuUrlOpener *urlOpener = nullptr);
 
 private:
-    std::unique_ptr<QObject> m_context;
-    QPointer<TovuToasterView> m_sheet;
+    TovuOpenSheet<TovuToasterView> m_open;
     TovuUrlOpener *m_urlOpener;
 };
