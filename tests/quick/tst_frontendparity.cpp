@@ -8,6 +8,7 @@
 #include <tovukit_io/quick/TovuQuickPresenter.h>
 #include <tovukit_io/ui/TovuIntroView.h>
 #include <tovukit_io/ui/TovuSheetPresenter.h>
+#include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 
 #include <QAccessible>
@@ -52,11 +53,25 @@ protected:
     void SetUp() override { TovuMotion::setDurationScale(0); }
     void TearDown() override { TovuMotion::setDurationScale(1); }
 
-    void compare(const TovuPageRequest &request, const std::vector<Control> &controls)
+    /// The page for `request` in both front ends, after `act` did the same to each page's model.
+    void compare(const TovuPageRequest &request, const std::vector<Control> &controls,
+                 const std::function<void(QObject *model)> &act = {})
     {
         SCOPED_TRACE(request.question.title);
-        compare([&] { return TovuSheetPresenter::createPage(request); },
-                [&](QQmlEngine *engine) { return TovuQuickPresenter::createPage(engine, request); }, controls);
+        compare(
+            [&] {
+                QWidget *page = TovuSheetPresenter::createPage(request);
+                if (act)
+                    act(page->findChild<TovuQuestionViewModel *>());
+                return page;
+            },
+            [&](QQmlEngine *engine) {
+                QQuickItem *page = TovuQuickPresenter::createPage(engine, request);
+                if (act && page)
+                    act(page->property("model").value<QObject *>());
+                return page;
+            },
+            controls);
     }
 
     void compare(const std::function<QWidget *()> &makeWidget,
