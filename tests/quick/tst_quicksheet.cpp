@@ -131,6 +131,23 @@ TEST_F(QuickSheet, CoversTheHostAndKeepsEveryInputAwayFromIt)
     EXPECT_EQ(window->property("hostTaps").toInt(), 0);
 }
 
+TEST_F(QuickSheet, AnItemHostIsCoveredAndFollowedAsItResizes)
+{
+    auto *host = new QQuickItem(window->contentItem());
+    host->setPosition(QPointF(0, 100));
+    host->setSize(QSizeF(390, 600));
+    TovuQuestion q = question(TovuQuestionType::singleChoice);
+    ASSERT_TRUE(presenter.present(TovuSurvey{.id = "s", .name = "Item", .questions = {q}}, host));
+    presenter.showQuestion(TovuPageRequest{.question = q});
+    ASSERT_EQ(sheet()->parentItem(), host);
+    EXPECT_EQ(sheet()->size(), host->size());
+    host->setHeight(500);
+    EXPECT_EQ(sheet()->height(), 500);
+    EXPECT_NEAR(panel()->y() + panel()->height(), 500, 1) << "the panel sits on the item's bottom edge";
+    QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(200, 120));
+    EXPECT_EQ(window->property("hostTaps").toInt(), 0);
+}
+
 TEST_F(QuickSheet, TallPagesScrollWithinTheLimitAndTheKeyboardLiftsThePanel)
 {
     ASSERT_TRUE(show(question(TovuQuestionType::singleChoice, true, 30)));
@@ -143,6 +160,15 @@ TEST_F(QuickSheet, TallPagesScrollWithinTheLimitAndTheKeyboardLiftsThePanel)
     EXPECT_GE(panel()->y(), TovuSheetMetrics::keyboardTopMargin - 1) << "never above the host's top";
     sheet()->keyboardWillHide(0);
     EXPECT_NEAR(panel()->y() + panel()->height(), window->height(), 1);
+
+    // Tab reaches the action under the fold, and the page scrolls to show it.
+    for (int i = 0; i < 40 && !window->activeFocusItem()->property("text").toString().startsWith(u"Next"); ++i)
+        QTest::keyClick(window, Qt::Key_Tab);
+    QQuickItem *focused = window->activeFocusItem();
+    ASSERT_TRUE(focused->property("text").toString().startsWith(u"Next"));
+    const QRectF shown = focused->mapRectToScene(focused->boundingRect());
+    const QRectF panelArea = panel()->mapRectToScene(panel()->boundingRect());
+    EXPECT_TRUE(panelArea.contains(shown)) << "the focused action is in view";
 
     // A short page takes the height it needs.
     ASSERT_TRUE(show(question(TovuQuestionType::singleChoice, true, 2)));

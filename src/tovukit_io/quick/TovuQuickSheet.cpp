@@ -186,6 +186,7 @@ void TovuQuickSheet::activeFocusMoved()
     QQuickItem *focus = m_window->activeFocusItem();
     if (contains(focus)) {
         m_lastFocus = focus;
+        scrollIntoView(focus);
         return;
     }
     // A sheet put up over this one takes the input; fighting it for focus would never end.
@@ -199,6 +200,27 @@ void TovuQuickSheet::activeFocusMoved()
         QQuickItem *back = m_lastFocus && contains(m_lastFocus) && m_lastFocus->isVisible() ? m_lastFocus.data() : this;
         back->forceActiveFocus(Qt::OtherFocusReason);
     }
+}
+
+// A control reached with Tab on a page taller than the panel scrolls into view,
+// as it does in the widget sheet's scroll area.
+void TovuQuickSheet::scrollIntoView(QQuickItem *item)
+{
+    if (!m_slot || !m_slot->isAncestorOf(item))
+        return;
+    QQuickItem *view = m_slot->parentItem();
+    while (view && !view->inherits("QQuickFlickable"))
+        view = view->parentItem();
+    if (!view)
+        return;
+    const QRectF place = item->mapRectToItem(view, item->boundingRect());
+    qreal shift = 0;
+    if (place.bottom() > view->height())
+        shift = place.bottom() - view->height();
+    if (place.top() - shift < 0)
+        shift = place.top();
+    if (shift != 0)
+        view->setProperty("contentY", view->property("contentY").toReal() + shift);
 }
 
 void TovuQuickSheet::restoreFocus()

@@ -86,6 +86,7 @@ private:
     bool moveFocus(bool forward);
     void activeFocusMoved();
     void restoreFocus();
+    void scrollIntoView(QQuickItem *item);
     void setTranslation(qreal translation);
     void setBottomOffset(qreal offset);
 
