@@ -10,6 +10,7 @@
 #include <tovukit_io/ui/TovuSheetPresenter.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 
 #include <QAccessible>
 #include <QQmlEngine>
@@ -139,6 +140,42 @@ TEST_F(FrontEndParity, QuestionPagesPlaceTheirControlsAlike)
             .id = "q", .type = page.type, .title = title, .options = options({"A friend", "An advert", "Search"})};
         compare(TovuPageRequest{.question = question, .isLastQuestion = page.last}, page.controls);
     }
+}
+
+TEST_F(FrontEndParity, NPSPagesPlaceTheirScalesAndFollowUpsAlike)
+{
+    TovuQuestion nps{.id = "nps",
+                     .type = TovuQuestionType::nps,
+                     .title = "How likely are you to recommend us?",
+                     .subtitle = "0 is not at all, 10 is extremely",
+                     .followUpQuestion = "What made you choose that?"};
+    nps.conditionalFollowUps
+        = std::vector<TovuConditionalFollowUp>{{.minRating = 0,
+                                                .maxRating = 6,
+                                                .followUpQuestion = "What went wrong?",
+                                                .followUpType = TovuQuestionType::singleChoice,
+                                                .followUpOptions = options({"Delivery", "Price"})}};
+    const auto score = [](int chosen) {
+        return [chosen](QObject *model) {
+            qobject_cast<TovuNPSQuestionViewModel *>(model)->selectScore(chosen);
+        };
+    };
+    const std::vector<Control> scale{text("How likely are you to recommend us?"),
+                                     text("0 is not at all, 10 is extremely"),
+                                     button("Score 0"),
+                                     button("Score 6"),
+                                     button("Score 10"),
+                                     text("Not likely"),
+                                     text("Very likely")};
+    // A text follow-up under a promoter's score, radio rows under a detractor's.
+    std::vector<Control> promoter = scale;
+    promoter.insert(promoter.end(),
+                    {text("What made you choose that?"), field("What made you choose that?"), button("Submit")});
+    compare(TovuPageRequest{.question = nps}, promoter, score(9));
+    std::vector<Control> detractor = scale;
+    detractor.insert(detractor.end(),
+                     {text("What went wrong?"), option("Delivery"), option("Price"), button("Submit")});
+    compare(TovuPageRequest{.question = nps}, detractor, score(3));
 }
 
 TEST_F(FrontEndParity, IntroAndThankYouPagesPlaceTheirTextsAlike)

@@ -234,6 +234,31 @@ TEST_F(QuickSheet, TapsReachTheModelAndThePageShowsItsState)
     EXPECT_EQ(answers[0].value.at(0).type, "text");
 }
 
+TEST_F(QuickSheet, AnNPSScoreShowsItsFollowUpAndBothAnswersLeave)
+{
+    std::vector<TovuAnswer> followUps;
+    TovuQuestion nps{
+        .id = "nps", .type = TovuQuestionType::nps, .title = "Recommend us?", .followUpQuestion = "Why that score?"};
+    TovuSurvey survey{.id = "s", .name = "NPS", .questions = {nps}};
+    ASSERT_TRUE(presenter.present(survey, window));
+    presenter.showQuestion(TovuPageRequest{.question = nps,
+                                           .onAnswer = [this](const TovuAnswer &a) { answers.push_back(a); },
+                                           .onAdditionalAnswer =
+                                               [&](const TovuAnswer &a) {
+                                                   followUps.push_back(a);
+                                               }});
+    EXPECT_FALSE(button(QStringLiteral("Next \u2192"))) << "the action waits for a score";
+    EXPECT_FALSE(shows(QStringLiteral("Why that score?")));
+    ASSERT_TRUE(clickButton(QStringLiteral("Score 9")));
+    EXPECT_TRUE(shows(QStringLiteral("Why that score?")));
+    ASSERT_TRUE(Clicker::type(window, sheet(), QStringLiteral("Why that score?"), QStringLiteral("Fast")));
+    ASSERT_TRUE(clickButton(QStringLiteral("Submit"))) << "a follow-up makes the action read Submit";
+    ASSERT_EQ(followUps.size(), 1u);
+    EXPECT_EQ(followUps[0].value.at(0).text, "Fast");
+    ASSERT_EQ(answers.size(), 1u);
+    EXPECT_EQ(answers[0].value.at(0).colId, "9");
+}
+
 TEST_F(QuickSheet, SurveyTextIsShownAsPlainText)
 {
     TovuQuestion q = question(TovuQuestionType::singleChoice);

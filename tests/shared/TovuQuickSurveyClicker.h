@@ -11,11 +11,13 @@
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
 
 #include <QAccessible>
+#include <QCoreApplication>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -93,6 +95,8 @@ public:
     {
         if (!node || !window)
             return false;
+        // Let pending layout (positioners, anchors) settle first, as a frame would.
+        QCoreApplication::processEvents();
         scrollIntoView(node);
         const QPoint centre = window->mapFromGlobal(node->rect().center());
         QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, centre);
@@ -136,6 +140,8 @@ public:
             this->dropdown(window, page, *dropdown);
         else if (auto *textBox = qobject_cast<TovuTextBoxQuestionViewModel *>(model))
             this->textBox(window, page, *textBox);
+        else if (auto *nps = qobject_cast<TovuNPSQuestionViewModel *>(model))
+            this->nps(window, page, *nps);
         auto *question = qobject_cast<TovuQuestionViewModel *>(model);
         return question && clickButton(window, page, question->actionTitle());
     }
@@ -198,6 +204,16 @@ private:
         const int choice = std::min(2, static_cast<int>(model.optionTexts().size()) - 1);
         clickButton(window, page, model.optionTexts().at(choice));
         expected.push_back({model.questionId().toStdString(), {id(model.optionIds(), choice)}, {}});
+    }
+
+    void nps(QQuickWindow *window, QQuickItem *page, const TovuNPSQuestionViewModel &model)
+    {
+        clickButton(window, page, QStringLiteral("Score 9"));
+        if (!model.followUpOptionTexts().isEmpty())
+            clickButton(window, page, model.followUpOptionTexts().first());
+        else if (model.isFollowUpShown())
+            type(window, page, model.followUpQuestion(), QStringLiteral("Quick delivery"));
+        expected.push_back({model.questionId().toStdString(), {}, {}});
     }
 
     void textBox(QQuickWindow *window, QQuickItem *page, const TovuTextBoxQuestionViewModel &model)

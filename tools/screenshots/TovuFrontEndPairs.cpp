@@ -8,6 +8,7 @@
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 
@@ -75,6 +76,14 @@ std::vector<Pair> pairs()
           .isRequired = true},
          [](QObject *model) {
              qobject_cast<TovuQuestionViewModel *>(model)->submit();
+         }},
+        {"nps-follow-up",
+         {.id = "nps",
+          .type = TovuQuestionType::nps,
+          .title = "How likely are you to recommend us to a friend?",
+          .followUpQuestion = "What is the main reason for your score?"},
+         [](QObject *model) {
+             qobject_cast<TovuNPSQuestionViewModel *>(model)->selectScore(9);
          }},
         {"thank-you",
          {.id = "thank_you_auto",

@@ -7,6 +7,7 @@
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
@@ -97,5 +98,12 @@ struct TovuThankYouViewModelForeign {
     Q_GADGET
     QML_FOREIGN(TovuThankYouViewModel)
     QML_NAMED_ELEMENT(TovuThankYouViewModel)
+    QML_UNCREATABLE("made by the presenter")
+};
+
+struct TovuNPSQuestionViewModelForeign {
+    Q_GADGET
+    QML_FOREIGN(TovuNPSQuestionViewModel)
+    QML_NAMED_ELEMENT(TovuNPSQuestionViewModel)
     QML_UNCREATABLE("made by the presenter")
 };

@@ -10,6 +10,7 @@
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
@@ -211,7 +212,11 @@ QQuickItem *TovuQuickPresenter::createPage(QQmlEngine *engine, TovuPageRequest r
     case TovuQuestionType::singleTextBox:
     case TovuQuestionType::multipleTextBox:
         return questionPage(engine, QLatin1StringView("TovuTextBoxPage"), new TovuTextBoxQuestionViewModel(q), request);
-    case TovuQuestionType::nps:
+    case TovuQuestionType::nps: {
+        auto *model = new TovuNPSQuestionViewModel(q, last);
+        model->onAdditionalAnswer = std::move(request.onAdditionalAnswer);
+        return questionPage(engine, QLatin1StringView("TovuNPSPage"), model, request);
+    }
     case TovuQuestionType::multiNps:
     case TovuQuestionType::rating:
     case TovuQuestionType::multiRating:

@@ -113,6 +113,11 @@ QColor TovuQuickStyle::gray5() const
     return TovuPlatformColors::color(Role::gray5);
 }
 
+QColor TovuQuickStyle::gray6() const
+{
+    return TovuPlatformColors::color(Role::gray6);
+}
+
 QColor TovuQuickStyle::red() const
 {
     return TovuPlatformColors::color(Role::red);

@@ -29,6 +29,7 @@ class TovuQuickStyle : public QObject
     Q_PROPERTY(QColor gray3 READ gray3 NOTIFY changed)
     Q_PROPERTY(QColor gray4 READ gray4 NOTIFY changed)
     Q_PROPERTY(QColor gray5 READ gray5 NOTIFY changed)
+    Q_PROPERTY(QColor gray6 READ gray6 NOTIFY changed)
     Q_PROPERTY(QColor red READ red NOTIFY changed)
 
 public:
@@ -47,6 +48,7 @@ public:
     QColor gray3() const;
     QColor gray4() const;
     QColor gray5() const;
+    QColor gray6() const;
     QColor red() const;
 
     /// The theme's font at `size` points (scaled by the survey's base size) and `weight`.

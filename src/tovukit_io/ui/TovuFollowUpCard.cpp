@@ -5,6 +5,7 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuTextArea.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
@@ -12,23 +13,26 @@
 #include <QVBoxLayout>
 
 using Parts = TovuQuestionParts;
+using Metrics = TovuPageMetrics;
 
 TovuFollowUpCard::TovuFollowUpCard(QWidget *parent)
     : TovuBox(parent)
 {
     setBackgroundColor(TovuPlatformColors::color(TovuPlatformColors::Role::gray6));
-    setCornerRadius(12);
-    auto *stack = Parts::pageStack(this, 10);
-    stack->setContentsMargins(14, 14, 14, 14);
+    setCornerRadius(Metrics::followUpCornerRadius);
+    auto *stack = Parts::pageStack(this, qRound(Metrics::followUpSpacing));
+    const int padding = qRound(Metrics::followUpPadding);
+    stack->setContentsMargins(padding, padding, padding, padding);
 
-    m_titleLabel = TovuLabels::plain(QString(), Parts::font(15, QFont::DemiBold), QColor(), this);
+    m_titleLabel
+        = TovuLabels::plain(QString(), Parts::font(Metrics::followUpTitleFontSize, QFont::DemiBold), QColor(), this);
     stack->addWidget(m_titleLabel);
     m_textArea = new TovuTextArea(this);
-    m_textArea->setFont(Parts::font(15, QFont::Normal));
+    m_textArea->setFont(Parts::font(Metrics::followUpTextFontSize, QFont::Normal));
     stack->addWidget(m_textArea);
 
     m_choiceContainer = new QWidget(this);
-    m_choiceStack = Parts::pageStack(m_choiceContainer, 8);
+    m_choiceStack = Parts::pageStack(m_choiceContainer, qRound(Metrics::followUpChoiceSpacing));
     m_choiceContainer->hide();
     stack->addWidget(m_choiceContainer);
     hide();
@@ -55,16 +59,18 @@ const QList<TovuButton *> &TovuFollowUpCard::showChoices(const QString &question
     for (const TovuChoice &option : options) {
         auto *button = new TovuButton(QString::fromStdString(option.text), m_choiceContainer);
         button->setObjectName(QString::fromStdString(option.id));
-        button->setFont(Parts::font(14, QFont::Medium));
+        button->setFont(Parts::font(Metrics::followUpChoiceFontSize, QFont::Medium));
         button->setAccessory(TovuButton::Accessory::radio);
-        button->setAccessorySize(18);
-        button->setAccessoryInset(12);
+        button->setAccessorySize(Metrics::followUpRadioSize);
+        button->setAccessoryInset(Metrics::followUpRadioLeading);
         button->setCheckable(true);
         button->setTitleAlignment(Qt::AlignLeading);
-        button->setContentInsets(QMargins(40, 10, 12, 10));
-        button->setCornerRadius(10);
-        button->setBorderWidth(1.5);
-        button->setFixedHeight(44);
+        button->setContentInsets(
+            QMargins(qRound(Metrics::followUpChoiceInsetLeading), qRound(Metrics::followUpChoiceInsetVertical),
+                     qRound(Metrics::followUpChoiceInsetTrailing), qRound(Metrics::followUpChoiceInsetVertical)));
+        button->setCornerRadius(Metrics::followUpChoiceCornerRadius);
+        button->setBorderWidth(Metrics::optionRowBorderWidth);
+        button->setFixedHeight(qRound(Metrics::followUpChoiceHeight));
         m_choiceStack->addWidget(button);
         m_choiceButtons.append(button);
     }

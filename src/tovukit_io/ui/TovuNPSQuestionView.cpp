@@ -28,7 +28,7 @@ TovuNPSQuestionView::TovuNPSQuestionView(TovuNPSQuestionViewModel *model, QWidge
         if (onAdditionalAnswer)
             onAdditionalAnswer(answer);
     };
-    QVBoxLayout *outer = Parts::pageStack(this, 14);
+    QVBoxLayout *outer = Parts::pageStack(this, qRound(TovuPageMetrics::npsSpacing));
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
     m_subtitleLabel = TovuScaleParts::buildSubtitle(m_model->subtitle(), this);
@@ -37,7 +37,8 @@ TovuNPSQuestionView::TovuNPSQuestionView(TovuNPSQuestionViewModel *model, QWidge
                                           [this](TovuButton *button) { npsTapped(button); });
     outer->addLayout(m_npsRow);
     m_labelsStack = TovuScaleParts::buildEndLabels(this, m_model->lowLabel(), m_model->highLabel(),
-                                                   Parts::font(11, QFont::Normal), m_lowLabel, m_highLabel);
+                                                   Parts::font(TovuPageMetrics::endLabelFontSize, QFont::Normal),
+                                                   m_lowLabel, m_highLabel);
     outer->addLayout(m_labelsStack);
     buildFollowUpCard();
     outer->addWidget(m_followUpCard);

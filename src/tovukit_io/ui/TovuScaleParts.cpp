@@ -16,7 +16,7 @@ TovuEqualWidthLayout *TovuScaleParts::buildScale(QWidget *page, const ScaleMetri
                                                  const std::function<void(TovuButton *)> &tapped)
 {
     auto *row = new TovuEqualWidthLayout;
-    row->setSpacing(4);
+    row->setSpacing(qRound(TovuPageMetrics::scoreSpacing));
     for (int score = TovuNPSBands::minScore; score <= TovuNPSBands::maxScore; ++score) {
         auto *button = new TovuButton(QString::number(score), page);
         button->setFont(Parts::font(metrics.fontSize, QFont::DemiBold));
@@ -55,7 +55,7 @@ QHBoxLayout *TovuScaleParts::buildEndLabels(QWidget *page, const QString &low, c
     highLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto *stack = new QHBoxLayout;
     stack->setContentsMargins(0, 0, 0, 0);
-    stack->setSpacing(8);
+    stack->setSpacing(qRound(TovuPageMetrics::endLabelSpacing));
     stack->addWidget(lowLabel, 1);
     stack->addWidget(highLabel, 1);
     return stack;

@@ -3,6 +3,7 @@
 // The 0 to 10 scales the NPS and multi-NPS pages are built from; not installed.
 
 #include <tovukit_io/viewmodel/TovuNPSBands.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 
 #include <QCoreApplication>
 #include <QFont>
@@ -24,11 +25,11 @@ class TovuScaleParts
 public:
     /// The size of one scale's buttons.
     struct ScaleMetrics {
-        qreal fontSize = 13;
-        qreal cornerRadius = 8;
-        int height = 40;
+        qreal fontSize = TovuPageMetrics::scoreFontSize;
+        qreal cornerRadius = TovuPageMetrics::scoreCornerRadius;
+        int height = qRound(TovuPageMetrics::scoreHeight);
     };
-    /// A row (spacing 4) of one button per score, 0 to 10, each titled and tagged with its
+    /// A row (scoreSpacing) of one button per score, 0 to 10, each titled and tagged with its
     /// score and named "Score N"; appended to `buttons`; a tap calls `tapped` with the button.
     static TovuEqualWidthLayout *buildScale(QWidget *page, const ScaleMetrics &metrics, QList<TovuButton *> &buttons,
                                             const std::function<void(TovuButton *)> &tapped);

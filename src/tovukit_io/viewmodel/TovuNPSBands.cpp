@@ -130,3 +130,11 @@ QString TovuNPSBands::highLabel(const std::optional<TovuNPSLabels> &labels)
 {
     return labels ? QString::fromStdString(labels->upper) : QCoreApplication::translate("TovuNPSBands", "Very likely");
 }
+
+QVariantMap TovuNPSBands::styleOf(const Look &look)
+{
+    return {{QStringLiteral("background"), look.background},
+            {QStringLiteral("title"), look.title},
+            {QStringLiteral("border"), look.border},
+            {QStringLiteral("borderWidth"), look.borderWidth}};
+}

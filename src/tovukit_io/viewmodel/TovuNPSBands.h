@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QString>
+#include <QVariantMap>
 
 #include <optional>
 #include <string_view>
@@ -70,6 +71,8 @@ public:
     /// else a grey one (0.2 resting, 0.35 unselected, 0.15 selected); a 1.5 border in
     /// the band colour, or 3.0 when selected, grey 0.3 on light colours.
     static Look look(const QColor &band, Emphasis emphasis);
+    /// `look` as QML reads it: `background`, `title`, `border` and `borderWidth`.
+    static QVariantMap styleOf(const Look &look);
 
     /// The NPS labels of `question`, if it has any.
     static const std::optional<TovuNPSLabels> &labelsOf(const std::optional<TovuQuestion> &question);

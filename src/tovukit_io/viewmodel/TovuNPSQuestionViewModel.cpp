@@ -154,3 +154,18 @@ std::optional<TovuAnswer> TovuNPSQuestionViewModel::textAnswer(const std::string
     return TovuAnswer{.questionId = questionId,
                       .value = {{.rowId = rowId, .text = text.toStdString(), .type = "text"}}};
 }
+
+QVariantMap TovuNPSQuestionViewModel::scoreStyle(int score) const
+{
+    return TovuNPSBands::styleOf(scoreLook(score));
+}
+
+QColor TovuNPSQuestionViewModel::lowLabelColor()
+{
+    return TovuNPSBands::defaultColor(TovuNPSBands::Band::detractor);
+}
+
+QColor TovuNPSQuestionViewModel::highLabelColor()
+{
+    return TovuNPSBands::defaultColor(TovuNPSBands::Band::promoter);
+}

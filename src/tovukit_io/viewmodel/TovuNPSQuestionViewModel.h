@@ -3,6 +3,8 @@
 #include <tovukit_io/viewmodel/TovuNPSBands.h>
 #include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
 
+#include <QVariantMap>
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -50,6 +52,9 @@ class TovuNPSQuestionViewModel : public TovuQuestionViewModel
     Q_PROPERTY(QString followUpText READ followUpText WRITE setFollowUpText NOTIFY followUpTextChanged)
     Q_PROPERTY(QString lowLabel READ lowLabel CONSTANT)
     Q_PROPERTY(QString highLabel READ highLabel CONSTANT)
+    /// The end labels' fixed colours: the detractor red and the promoter green.
+    Q_PROPERTY(QColor lowLabelColor READ lowLabelColor CONSTANT)
+    Q_PROPERTY(QColor highLabelColor READ highLabelColor CONSTANT)
 
 public:
     enum class FollowUpKind { none, text, singleChoice };
@@ -77,6 +82,10 @@ public:
     Q_INVOKABLE QColor bandColor(int score) const;
     /// How the button of `score` looks in the current state.
     TovuNPSBands::Look scoreLook(int score) const;
+    /// The same for QML: `background`, `title` and `border` colours and `borderWidth`.
+    Q_INVOKABLE QVariantMap scoreStyle(int score) const;
+    static QColor lowLabelColor();
+    static QColor highLabelColor();
 
     /// Chooses `score` (again, if it is already chosen) and shows its follow-up; a
     /// score off the scale is ignored.

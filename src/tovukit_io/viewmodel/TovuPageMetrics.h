@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tovukit_io/viewmodel/TovuNPSBands.h>
+
 #include <QObject>
 
 /// The sizes, fonts and motion of the intro, thank-you, single choice, multiple choice,
@@ -95,6 +97,33 @@ class TovuPageMetrics : public QObject
     Q_PROPERTY(qreal thankYouDampingRatio MEMBER thankYouDampingRatio CONSTANT)
     Q_PROPERTY(qreal thankYouInitialVelocity MEMBER thankYouInitialVelocity CONSTANT)
     Q_PROPERTY(qreal redirectDelaySeconds MEMBER redirectDelaySeconds CONSTANT)
+    Q_PROPERTY(qreal npsSpacing MEMBER npsSpacing CONSTANT)
+    Q_PROPERTY(qreal scoreTapScale MEMBER scoreTapScale CONSTANT)
+    Q_PROPERTY(qreal scoreTapSeconds MEMBER scoreTapSeconds CONSTANT)
+    Q_PROPERTY(qreal scoreSpacing MEMBER scoreSpacing CONSTANT)
+    Q_PROPERTY(qreal scoreFontSize MEMBER scoreFontSize CONSTANT)
+    Q_PROPERTY(qreal scoreCornerRadius MEMBER scoreCornerRadius CONSTANT)
+    Q_PROPERTY(qreal scoreHeight MEMBER scoreHeight CONSTANT)
+    Q_PROPERTY(qreal endLabelFontSize MEMBER endLabelFontSize CONSTANT)
+    Q_PROPERTY(qreal endLabelSpacing MEMBER endLabelSpacing CONSTANT)
+    Q_PROPERTY(qreal followUpCornerRadius MEMBER followUpCornerRadius CONSTANT)
+    Q_PROPERTY(qreal followUpSpacing MEMBER followUpSpacing CONSTANT)
+    Q_PROPERTY(qreal followUpPadding MEMBER followUpPadding CONSTANT)
+    Q_PROPERTY(qreal followUpTitleFontSize MEMBER followUpTitleFontSize CONSTANT)
+    Q_PROPERTY(qreal followUpTextFontSize MEMBER followUpTextFontSize CONSTANT)
+    Q_PROPERTY(qreal followUpTextHeight MEMBER followUpTextHeight CONSTANT)
+    Q_PROPERTY(qreal followUpTextCornerRadius MEMBER followUpTextCornerRadius CONSTANT)
+    Q_PROPERTY(qreal followUpTextBorderWidth MEMBER followUpTextBorderWidth CONSTANT)
+    Q_PROPERTY(qreal followUpTextMargin MEMBER followUpTextMargin CONSTANT)
+    Q_PROPERTY(qreal followUpChoiceSpacing MEMBER followUpChoiceSpacing CONSTANT)
+    Q_PROPERTY(qreal followUpChoiceFontSize MEMBER followUpChoiceFontSize CONSTANT)
+    Q_PROPERTY(qreal followUpChoiceHeight MEMBER followUpChoiceHeight CONSTANT)
+    Q_PROPERTY(qreal followUpChoiceCornerRadius MEMBER followUpChoiceCornerRadius CONSTANT)
+    Q_PROPERTY(qreal followUpChoiceInsetLeading MEMBER followUpChoiceInsetLeading CONSTANT)
+    Q_PROPERTY(qreal followUpChoiceInsetTrailing MEMBER followUpChoiceInsetTrailing CONSTANT)
+    Q_PROPERTY(qreal followUpChoiceInsetVertical MEMBER followUpChoiceInsetVertical CONSTANT)
+    Q_PROPERTY(qreal followUpRadioSize MEMBER followUpRadioSize CONSTANT)
+    Q_PROPERTY(qreal followUpRadioLeading MEMBER followUpRadioLeading CONSTANT)
 
 public:
     explicit TovuPageMetrics(QObject *parent = nullptr)
@@ -217,4 +246,35 @@ public:
 
     // A thank-you page's web address opens this long after the page is shown (not motion time).
     static constexpr qreal redirectDelaySeconds = 2.5;
+
+    // The NPS page: its stack, the 0 to 10 scale (eleven buttons sharing the width) and its end labels.
+    static constexpr qreal npsSpacing = 14;
+    static constexpr qreal scoreSpacing = 4;
+    static constexpr qreal scoreTapScale = TovuNPSBands::tapScale;
+    static constexpr qreal scoreTapSeconds = TovuNPSBands::tapSeconds;
+    static constexpr qreal scoreFontSize = 13;
+    static constexpr qreal scoreCornerRadius = 8;
+    static constexpr qreal scoreHeight = 40;
+    static constexpr qreal endLabelFontSize = 11;
+    static constexpr qreal endLabelSpacing = 8;
+
+    // The follow-up card under a chosen score: a grey box with the question and a text area or radio rows.
+    static constexpr qreal followUpCornerRadius = 12;
+    static constexpr qreal followUpSpacing = 10;
+    static constexpr qreal followUpPadding = 14;
+    static constexpr qreal followUpTitleFontSize = 15;
+    static constexpr qreal followUpTextFontSize = 15;
+    static constexpr qreal followUpTextHeight = 90;
+    static constexpr qreal followUpTextCornerRadius = 8;
+    static constexpr qreal followUpTextBorderWidth = 1;
+    static constexpr qreal followUpTextMargin = 8;
+    static constexpr qreal followUpChoiceSpacing = 8;
+    static constexpr qreal followUpChoiceFontSize = 14;
+    static constexpr qreal followUpChoiceHeight = 44;
+    static constexpr qreal followUpChoiceCornerRadius = 10;
+    static constexpr qreal followUpChoiceInsetLeading = 40;
+    static constexpr qreal followUpChoiceInsetTrailing = 12;
+    static constexpr qreal followUpChoiceInsetVertical = 10;
+    static constexpr qreal followUpRadioSize = 18;
+    static constexpr qreal followUpRadioLeading = 12;
 };

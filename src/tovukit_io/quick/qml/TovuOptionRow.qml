@@ -9,14 +9,22 @@ Rectangle {
     property bool chosen
     property bool checkbox
     property color accent: TovuStyle.primaryColor
+    // A question's rows by default; the follow-up card's are smaller.
+    property real rowHeight: TovuPageMetrics.optionRowHeight
+    property real rowRadius: TovuPageMetrics.optionRowCornerRadius
+    property real fontSize: TovuPageMetrics.optionRowFontSize
+    property real textLeading: TovuPageMetrics.optionRowInsetLeading
+    property real textTrailing: TovuPageMetrics.optionRowInsetTrailing
+    property real markSize: checkbox ? TovuPageMetrics.checkboxSize : TovuPageMetrics.radioSize
+    property real markLeadingInset: TovuPageMetrics.markLeading
     signal tapped()
 
     // The press bounce of a row that became chosen.
     function bounce() { press.restart() }
 
     width: parent ? parent.width : 0
-    height: TovuPageMetrics.optionRowHeight
-    radius: TovuPageMetrics.optionRowCornerRadius
+    height: row.rowHeight
+    radius: row.rowRadius
     border.width: TovuPageMetrics.optionRowBorderWidth
     border.color: row.chosen ? row.accent : TovuStyle.gray4
     color: row.chosen ? TovuStyle.withAlpha(row.accent, TovuPageMetrics.chosenFillAlpha) : TovuStyle.systemBackground
@@ -48,9 +56,9 @@ Rectangle {
     Rectangle {
         id: mark
         anchors.left: parent.left
-        anchors.leftMargin: TovuPageMetrics.markLeading
+        anchors.leftMargin: row.markLeadingInset
         anchors.verticalCenter: parent.verticalCenter
-        width: row.checkbox ? TovuPageMetrics.checkboxSize : TovuPageMetrics.radioSize
+        width: row.markSize
         height: width
         radius: row.checkbox ? TovuPageMetrics.checkboxCornerRadius : width / 2
         border.width: row.checkbox ? TovuPageMetrics.checkboxBorderWidth : TovuPageMetrics.radioBorderWidth
@@ -79,16 +87,16 @@ Rectangle {
 
     Text {
         anchors.left: parent.left
-        anchors.leftMargin: TovuPageMetrics.optionRowInsetLeading
+        anchors.leftMargin: row.textLeading
         anchors.right: parent.right
-        anchors.rightMargin: TovuPageMetrics.optionRowInsetTrailing
+        anchors.rightMargin: row.textTrailing
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight
         textFormat: Text.PlainText
         text: row.text
         color: row.chosen ? row.accent : TovuStyle.label
-        font: TovuStyle.font(TovuPageMetrics.optionRowFontSize, Font.Medium)
+        font: TovuStyle.font(row.fontSize, Font.Medium)
         Accessible.ignored: true
     }
 

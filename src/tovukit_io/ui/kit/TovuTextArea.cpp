@@ -1,5 +1,7 @@
 #include <tovukit_io/ui/kit/TovuTextArea.h>
 
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
+
 #include <QEvent>
 #include <QFocusEvent>
 #include <QPainter>
@@ -8,16 +10,16 @@
 
 TovuTextArea::TovuTextArea(QWidget *parent)
     : QPlainTextEdit(parent)
-    , TovuInputFrame(this, 8, 1)
+    , TovuInputFrame(this, TovuPageMetrics::followUpTextCornerRadius, TovuPageMetrics::followUpTextBorderWidth)
 {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // The frame is painted on this widget, under the viewport: the viewport stays see-through.
     viewport()->setAutoFillBackground(false);
-    document()->setDocumentMargin(8);
+    document()->setDocumentMargin(TovuPageMetrics::followUpTextMargin);
     setTabChangesFocus(true);
-    setFixedHeight(90);
+    setFixedHeight(qRound(TovuPageMetrics::followUpTextHeight));
     setAttribute(Qt::WA_MacShowFocusRect, false);
     applyFramePalette();
 }
