@@ -10,6 +10,7 @@
 #include <tovukit_io/ui/TovuSheetPresenter.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 
 #include <QAccessible>
@@ -176,6 +177,24 @@ TEST_F(FrontEndParity, NPSPagesPlaceTheirScalesAndFollowUpsAlike)
     detractor.insert(detractor.end(),
                      {text("What went wrong?"), option("Delivery"), option("Price"), button("Submit")});
     compare(TovuPageRequest{.question = nps}, detractor, score(3));
+}
+
+TEST_F(FrontEndParity, MultiNPSPagesPlaceTheirRowsAlike)
+{
+    const TovuQuestion rows{.id = "rows",
+                            .type = TovuQuestionType::multiNps,
+                            .title = "How likely are you to recommend",
+                            .isRequired = true,
+                            .options = options({"Our app", "Our delivery", "Our prices"})};
+    compare(TovuPageRequest{.question = rows},
+            {text("How likely are you to recommend"), text("Our app"), button("Score 0"), button("Score 10"),
+             text("Not likely"), text("Our delivery"), text("Our prices"), text("Please rate all items."),
+             button("Next \u2192")},
+            [](QObject *model) {
+                auto *scales = qobject_cast<TovuMultiNPSQuestionViewModel *>(model);
+                scales->selectScore(QStringLiteral("o1"), 4);
+                scales->submit(); // refused: one row is left
+            });
 }
 
 TEST_F(FrontEndParity, IntroAndThankYouPagesPlaceTheirTextsAlike)

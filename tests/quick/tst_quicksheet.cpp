@@ -259,6 +259,25 @@ TEST_F(QuickSheet, AnNPSScoreShowsItsFollowUpAndBothAnswersLeave)
     EXPECT_EQ(answers[0].value.at(0).colId, "9");
 }
 
+TEST_F(QuickSheet, EveryMultiNPSRowTakesItsOwnScore)
+{
+    QQuickItem *page = show(question(TovuQuestionType::multiNps));
+    ASSERT_TRUE(page);
+    ASSERT_TRUE(clickButton(QStringLiteral("Next \u2192")));
+    EXPECT_TRUE(shows(QStringLiteral("Please rate all items.")));
+    EXPECT_EQ(page->x(), 0) << "only the message shakes";
+    // A screen reader tells the rows' scales apart by their description.
+    const auto eights = Clicker::nodes(sheet(), QAccessible::Button, QStringLiteral("Score 8"));
+    ASSERT_EQ(eights.size(), 3u);
+    EXPECT_EQ(eights[1]->text(QAccessible::Description), QStringLiteral("Option 1"));
+    for (QAccessibleInterface *eight : eights)
+        ASSERT_TRUE(Clicker::click(window, eight));
+    ASSERT_TRUE(clickButton(QStringLiteral("Next \u2192")));
+    ASSERT_EQ(answers.size(), 1u);
+    ASSERT_EQ(answers[0].value.size(), 3u);
+    EXPECT_EQ(answers[0].value[2].rowId, "o2");
+}
+
 TEST_F(QuickSheet, SurveyTextIsShownAsPlainText)
 {
     TovuQuestion q = question(TovuQuestionType::singleChoice);

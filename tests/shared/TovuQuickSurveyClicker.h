@@ -10,6 +10,7 @@
 #include <tovukit_io/quick/TovuQuickSheet.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
@@ -142,6 +143,8 @@ public:
             this->textBox(window, page, *textBox);
         else if (auto *nps = qobject_cast<TovuNPSQuestionViewModel *>(model))
             this->nps(window, page, *nps);
+        else if (auto *rows = qobject_cast<TovuMultiNPSQuestionViewModel *>(model))
+            this->multiNps(window, page, *rows);
         auto *question = qobject_cast<TovuQuestionViewModel *>(model);
         return question && clickButton(window, page, question->actionTitle());
     }
@@ -213,6 +216,13 @@ private:
             clickButton(window, page, model.followUpOptionTexts().first());
         else if (model.isFollowUpShown())
             type(window, page, model.followUpQuestion(), QStringLiteral("Quick delivery"));
+        expected.push_back({model.questionId().toStdString(), {}, {}});
+    }
+
+    void multiNps(QQuickWindow *window, QQuickItem *page, const TovuMultiNPSQuestionViewModel &model)
+    {
+        for (QAccessibleInterface *eight : nodes(page, QAccessible::Button, QStringLiteral("Score 8")))
+            click(window, eight);
         expected.push_back({model.questionId().toStdString(), {}, {}});
     }
 

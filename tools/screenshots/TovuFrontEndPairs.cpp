@@ -7,6 +7,7 @@
 #include <tovukit_io/ui/TovuSheetPresenter.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
@@ -84,6 +85,15 @@ std::vector<Pair> pairs()
           .followUpQuestion = "What is the main reason for your score?"},
          [](QObject *model) {
              qobject_cast<TovuNPSQuestionViewModel *>(model)->selectScore(9);
+         }},
+        {"multi-nps",
+         {.id = "rows",
+          .type = TovuQuestionType::multiNps,
+          .title = "How likely are you to recommend",
+          .isRequired = true,
+          .options = Samples::choices("row-", {"Our app", "Our delivery"})},
+         [](QObject *model) {
+             qobject_cast<TovuMultiNPSQuestionViewModel *>(model)->selectScore(QStringLiteral("row-1"), 8);
          }},
         {"thank-you",
          {.id = "thank_you_auto",

@@ -6,6 +6,7 @@
 #include <tovukit_io/core/TovuNativeSurveyManager.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPageMetrics.h>
@@ -105,5 +106,12 @@ struct TovuNPSQuestionViewModelForeign {
     Q_GADGET
     QML_FOREIGN(TovuNPSQuestionViewModel)
     QML_NAMED_ELEMENT(TovuNPSQuestionViewModel)
+    QML_UNCREATABLE("made by the presenter")
+};
+
+struct TovuMultiNPSQuestionViewModelForeign {
+    Q_GADGET
+    QML_FOREIGN(TovuMultiNPSQuestionViewModel)
+    QML_NAMED_ELEMENT(TovuMultiNPSQuestionViewModel)
     QML_UNCREATABLE("made by the presenter")
 };

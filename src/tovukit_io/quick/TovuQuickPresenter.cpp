@@ -9,6 +9,7 @@
 #include <tovukit_io/quick/TovuQuickStyle.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
@@ -218,6 +219,8 @@ QQuickItem *TovuQuickPresenter::createPage(QQmlEngine *engine, TovuPageRequest r
         return questionPage(engine, QLatin1StringView("TovuNPSPage"), model, request);
     }
     case TovuQuestionType::multiNps:
+        return questionPage(engine, QLatin1StringView("TovuMultiNPSPage"), new TovuMultiNPSQuestionViewModel(q, last),
+                            request);
     case TovuQuestionType::rating:
     case TovuQuestionType::multiRating:
         return questionPage(engine, QLatin1StringView("TovuPlaceholderPage"), new TovuPlaceholderViewModel(q, last),

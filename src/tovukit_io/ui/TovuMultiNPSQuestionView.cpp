@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 using Parts = TovuQuestionParts;
+using Metrics = TovuPageMetrics;
 
 TovuMultiNPSQuestionView::TovuMultiNPSQuestionView(TovuQuestion question, bool isLastQuestion, QWidget *parent)
     : TovuMultiNPSQuestionView(new TovuMultiNPSQuestionViewModel(std::move(question), isLastQuestion), parent)
@@ -22,12 +23,12 @@ TovuMultiNPSQuestionView::TovuMultiNPSQuestionView(TovuMultiNPSQuestionViewModel
     : TovuQuestionView(model, parent)
     , m_model(model)
 {
-    QVBoxLayout *outer = Parts::pageStack(this, 16);
+    QVBoxLayout *outer = Parts::pageStack(this, qRound(Metrics::multiNpsSpacing));
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
     m_subtitleLabel = TovuScaleParts::buildSubtitle(m_model->subtitle(), this);
     outer->addWidget(m_subtitleLabel);
-    m_rowsStack = Parts::stack(20);
+    m_rowsStack = Parts::stack(qRound(Metrics::multiNpsRowsSpacing));
     const QStringList ids = m_model->optionIds();
     const QStringList texts = m_model->optionTexts();
     for (qsizetype row = 0; row < ids.size(); ++row)
@@ -44,13 +45,16 @@ TovuMultiNPSQuestionView::~TovuMultiNPSQuestionView() = default;
 
 void TovuMultiNPSQuestionView::addRow(const QString &rowId, const QString &text)
 {
-    QVBoxLayout *block = Parts::stack(6);
-    QLabel *label = TovuLabels::plain(text, Parts::font(14, QFont::DemiBold), QColor(), this);
+    QVBoxLayout *block = Parts::stack(qRound(Metrics::multiNpsRowSpacing));
+    QLabel *label
+        = TovuLabels::plain(text, Parts::font(Metrics::multiNpsRowLabelFontSize, QFont::DemiBold), QColor(), this);
     block->addWidget(label);
     m_rowLabels.append(label);
 
     QList<TovuButton *> buttons;
-    const TovuScaleParts::ScaleMetrics metrics{.fontSize = 12, .cornerRadius = 7, .height = 36};
+    const TovuScaleParts::ScaleMetrics metrics{.fontSize = Metrics::multiNpsScoreFontSize,
+                                               .cornerRadius = Metrics::multiNpsScoreCornerRadius,
+                                               .height = qRound(Metrics::multiNpsScoreHeight)};
     block->addLayout(
         TovuScaleParts::buildScale(this, metrics, buttons, [this](TovuButton *button) { scoreTapped(button); }));
     for (TovuButton *button : std::as_const(buttons)) {
@@ -63,12 +67,13 @@ void TovuMultiNPSQuestionView::addRow(const QString &rowId, const QString &text)
     QLabel *low = nullptr;
     QLabel *high = nullptr;
     block->addLayout(TovuScaleParts::buildEndLabels(this, m_model->lowLabel(), m_model->highLabel(),
-                                                    Parts::font(10, QFont::DemiBold), low, high));
+                                                    Parts::font(Metrics::multiNpsEndLabelFontSize, QFont::DemiBold),
+                                                    low, high));
     m_lowLabels.append(low);
     m_highLabels.append(high);
 
     auto *separator = new TovuHairline(this);
-    separator->setThickness(1);
+    separator->setThickness(Metrics::multiNpsSeparatorHeight);
     block->addWidget(separator);
     m_separators.append(separator);
     m_rowsStack->addLayout(block);

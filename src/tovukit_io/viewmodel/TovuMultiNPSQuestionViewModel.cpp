@@ -89,3 +89,8 @@ std::size_t TovuMultiNPSQuestionViewModel::rowCount() const
         ids.insert(row.id);
     return ids.size();
 }
+
+QVariantMap TovuMultiNPSQuestionViewModel::scoreStyle(const QString &rowId, int score) const
+{
+    return TovuNPSBands::styleOf(scoreLook(rowId.toStdString(), score));
+}

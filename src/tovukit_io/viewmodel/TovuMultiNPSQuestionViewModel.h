@@ -31,6 +31,9 @@ class TovuMultiNPSQuestionViewModel : public TovuQuestionViewModel
     Q_OBJECT
     Q_PROPERTY(QString lowLabel READ lowLabel CONSTANT)
     Q_PROPERTY(QString highLabel READ highLabel CONSTANT)
+    /// The end labels' fixed colours: the detractor red and the promoter green.
+    Q_PROPERTY(QColor lowLabelColor READ lowLabelColor CONSTANT)
+    Q_PROPERTY(QColor highLabelColor READ highLabelColor CONSTANT)
     /// Row id to its chosen score, for the rated rows.
     Q_PROPERTY(QVariantMap scores READ scores NOTIFY selectedScoresChanged)
     Q_PROPERTY(int ratedCount READ ratedCount NOTIFY selectedScoresChanged)
@@ -57,6 +60,10 @@ public:
     Q_INVOKABLE QColor bandColor(int score) const;
     /// How the button of `score` in the row `rowId` looks in the current state.
     TovuNPSBands::Look scoreLook(const std::string &rowId, int score) const;
+    /// The same for QML: `background`, `title` and `border` colours and `borderWidth`.
+    Q_INVOKABLE QVariantMap scoreStyle(const QString &rowId, int score) const;
+    QColor lowLabelColor() const { return TovuNPSBands::lowLabelColor(); }
+    QColor highLabelColor() const { return TovuNPSBands::highLabelColor(); }
 
     /// Rates the row `rowId` with `score` and hides the validation message; an id no
     /// row has, or a score off the scale, is ignored.

@@ -71,6 +71,9 @@ public:
     /// else a grey one (0.2 resting, 0.35 unselected, 0.15 selected); a 1.5 border in
     /// the band colour, or 3.0 when selected, grey 0.3 on light colours.
     static Look look(const QColor &band, Emphasis emphasis);
+    /// The end labels' fixed colours: the detractor red and the promoter green.
+    static QColor lowLabelColor() { return defaultColor(Band::detractor); }
+    static QColor highLabelColor() { return defaultColor(Band::promoter); }
     /// `look` as QML reads it: `background`, `title`, `border` and `borderWidth`.
     static QVariantMap styleOf(const Look &look);
 

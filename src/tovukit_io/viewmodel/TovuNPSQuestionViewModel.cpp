@@ -159,13 +159,3 @@ QVariantMap TovuNPSQuestionViewModel::scoreStyle(int score) const
 {
     return TovuNPSBands::styleOf(scoreLook(score));
 }
-
-QColor TovuNPSQuestionViewModel::lowLabelColor()
-{
-    return TovuNPSBands::defaultColor(TovuNPSBands::Band::detractor);
-}
-
-QColor TovuNPSQuestionViewModel::highLabelColor()
-{
-    return TovuNPSBands::defaultColor(TovuNPSBands::Band::promoter);
-}

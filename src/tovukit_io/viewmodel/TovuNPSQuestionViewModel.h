@@ -84,8 +84,8 @@ public:
     TovuNPSBands::Look scoreLook(int score) const;
     /// The same for QML: `background`, `title` and `border` colours and `borderWidth`.
     Q_INVOKABLE QVariantMap scoreStyle(int score) const;
-    static QColor lowLabelColor();
-    static QColor highLabelColor();
+    QColor lowLabelColor() const { return TovuNPSBands::lowLabelColor(); }
+    QColor highLabelColor() const { return TovuNPSBands::highLabelColor(); }
 
     /// Chooses `score` (again, if it is already chosen) and shows its follow-up; a
     /// score off the scale is ignored.

@@ -98,6 +98,15 @@ class TovuPageMetrics : public QObject
     Q_PROPERTY(qreal thankYouInitialVelocity MEMBER thankYouInitialVelocity CONSTANT)
     Q_PROPERTY(qreal redirectDelaySeconds MEMBER redirectDelaySeconds CONSTANT)
     Q_PROPERTY(qreal npsSpacing MEMBER npsSpacing CONSTANT)
+    Q_PROPERTY(qreal multiNpsSpacing MEMBER multiNpsSpacing CONSTANT)
+    Q_PROPERTY(qreal multiNpsRowsSpacing MEMBER multiNpsRowsSpacing CONSTANT)
+    Q_PROPERTY(qreal multiNpsRowSpacing MEMBER multiNpsRowSpacing CONSTANT)
+    Q_PROPERTY(qreal multiNpsRowLabelFontSize MEMBER multiNpsRowLabelFontSize CONSTANT)
+    Q_PROPERTY(qreal multiNpsScoreFontSize MEMBER multiNpsScoreFontSize CONSTANT)
+    Q_PROPERTY(qreal multiNpsScoreCornerRadius MEMBER multiNpsScoreCornerRadius CONSTANT)
+    Q_PROPERTY(qreal multiNpsScoreHeight MEMBER multiNpsScoreHeight CONSTANT)
+    Q_PROPERTY(qreal multiNpsEndLabelFontSize MEMBER multiNpsEndLabelFontSize CONSTANT)
+    Q_PROPERTY(qreal multiNpsSeparatorHeight MEMBER multiNpsSeparatorHeight CONSTANT)
     Q_PROPERTY(qreal scoreTapScale MEMBER scoreTapScale CONSTANT)
     Q_PROPERTY(qreal scoreTapSeconds MEMBER scoreTapSeconds CONSTANT)
     Q_PROPERTY(qreal scoreSpacing MEMBER scoreSpacing CONSTANT)
@@ -277,4 +286,15 @@ public:
     static constexpr qreal followUpChoiceInsetVertical = 10;
     static constexpr qreal followUpRadioSize = 18;
     static constexpr qreal followUpRadioLeading = 12;
+
+    // The multi-NPS page: a stack of rows, each a label, a smaller scale, its end labels and a hairline.
+    static constexpr qreal multiNpsSpacing = 16;
+    static constexpr qreal multiNpsRowsSpacing = 20;
+    static constexpr qreal multiNpsRowSpacing = 6;
+    static constexpr qreal multiNpsRowLabelFontSize = 14;
+    static constexpr qreal multiNpsScoreFontSize = 12;
+    static constexpr qreal multiNpsScoreCornerRadius = 7;
+    static constexpr qreal multiNpsScoreHeight = 36;
+    static constexpr qreal multiNpsEndLabelFontSize = 10;
+    static constexpr qreal multiNpsSeparatorHeight = 1;
 };

@@ -9,16 +9,7 @@ TovuQuestionPage {
 
     TovuPageTitle { text: page.model.title }
 
-    Text {
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
-        width: parent ? parent.width : 0
-        wrapMode: Text.Wrap
-        textFormat: Text.PlainText
-        text: page.model.hint
-        color: TovuStyle.gray
-        font: TovuStyle.font(TovuPageMetrics.hintFontSize, Font.Normal)
-    }
+    TovuPageHint { text: page.model.hint }
 
     Column {
         width: parent ? parent.width : 0

@@ -8,6 +8,8 @@ Column {
 
     required property TovuQuestionViewModel model
     property color accent: TovuStyle.primaryColor
+    // Whether a refusal shakes the message alone (the page stays).
+    property bool shakesMessage: false
 
     width: parent ? parent.width : 0
 
@@ -21,6 +23,18 @@ Column {
         text: footer.model.validationMessage
         color: TovuStyle.red
         font: TovuStyle.font(TovuPageMetrics.validationFontSize, Font.Normal)
+        transform: Translate { id: nudge }
+
+        TovuShakeAnimation {
+            id: shake
+            shift: nudge
+        }
+
+        Connections {
+            target: footer.model
+            enabled: footer.shakesMessage
+            function onShakeRequested() { shake.restart() }
+        }
     }
 
     TovuActionButton {

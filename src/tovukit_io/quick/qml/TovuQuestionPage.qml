@@ -8,24 +8,20 @@ Column {
 
     required property TovuQuestionViewModel model
     readonly property color accent: TovuStyle.primaryColor
+    // Whether a refusal shakes the whole page; else only its message does (the footer's).
+    property bool shakesPage: true
 
     width: parent ? parent.width : 0
     transform: Translate { id: shift }
 
-    SequentialAnimation {
+    TovuShakeAnimation {
         id: shake
-        NumberAnimation {
-            target: shift; property: "x"; to: -TovuPageMetrics.shakeDistance
-            duration: TovuStyle.durationMs(TovuPageMetrics.shakeSeconds)
-        }
-        NumberAnimation {
-            target: shift; property: "x"; to: 0
-            duration: TovuStyle.durationMs(TovuPageMetrics.shakeSeconds)
-        }
+        shift: shift
     }
 
     Connections {
         target: page.model
+        enabled: page.shakesPage
         function onShakeRequested() { shake.restart() }
     }
 }
