@@ -12,6 +12,7 @@
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 
 #include <QAccessible>
 #include <QQmlEngine>
@@ -195,6 +196,38 @@ TEST_F(FrontEndParity, MultiNPSPagesPlaceTheirRowsAlike)
                 scales->selectScore(QStringLiteral("o1"), 4);
                 scales->submit(); // refused: one row is left
             });
+}
+
+TEST_F(FrontEndParity, RatingPagesPlaceTheirButtonsAlikeInEveryVariant)
+{
+    const TovuRatingVariant variants[]
+        = {TovuRatingVariant::star, TovuRatingVariant::heart, TovuRatingVariant::circle,
+           TovuRatingVariant::tile, TovuRatingVariant::emoji, TovuRatingVariant::numeric};
+    TovuQuestion rating{.id = "r",
+                        .type = TovuQuestionType::rating,
+                        .title = "How was your last delivery?",
+                        .followUpQuestion = "Tell us more"};
+    for (const TovuRatingVariant variant : variants) {
+        SCOPED_TRACE(std::string(rawValue(variant)));
+        const TovuRatingQuestionViewModel names(rating, variant, 5, false);
+        const auto control = [&names](int position) {
+            return Control{QAccessible::CheckBox, names.accessibleName(position)};
+        };
+        compare(TovuPageRequest{.question = rating, .variant = variant},
+                {text("How was your last delivery?"), control(1), control(3), control(5), text("Tell us more"),
+                 field("Tell us more"), button("Submit")},
+                [](QObject *model) { qobject_cast<TovuRatingQuestionViewModel *>(model)->rate(3); });
+    }
+
+    // Column labels under the buttons, in the buttons' accessible names.
+    rating.columns = std::vector<TovuChoice>{{.id = "c1", .text = "Poor"},
+                                             {.id = "c2", .text = "Fair"},
+                                             {.id = "c3", .text = "Good"},
+                                             {.id = "c4", .text = "Great"}};
+    rating.showColLabels = true;
+    const TovuRatingQuestionViewModel labelled(rating, TovuRatingVariant::star, 5, false);
+    compare(TovuPageRequest{.question = rating},
+            {{QAccessible::CheckBox, labelled.accessibleName(1)}, {QAccessible::CheckBox, labelled.accessibleName(4)}});
 }
 
 TEST_F(FrontEndParity, IntroAndThankYouPagesPlaceTheirTextsAlike)

@@ -11,6 +11,7 @@
 #include <tovukit_io/quick/TovuQuickSheet.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 
 #include <QGuiApplication>
@@ -276,6 +277,31 @@ TEST_F(QuickSheet, EveryMultiNPSRowTakesItsOwnScore)
     ASSERT_EQ(answers.size(), 1u);
     ASSERT_EQ(answers[0].value.size(), 3u);
     EXPECT_EQ(answers[0].value[2].rowId, "o2");
+}
+
+TEST_F(QuickSheet, ARatingFillsAsItsVariantSaysAndReportsItsColumn)
+{
+    TovuQuestion rating{
+        .id = "r", .type = TovuQuestionType::rating, .title = "Rate us", .followUpQuestion = "Anything to add?"};
+    TovuSurvey survey{.id = "s", .name = "Rating", .questions = {rating}};
+    ASSERT_TRUE(presenter.present(survey, window));
+    presenter.showQuestion(TovuPageRequest{
+        .question = rating, .variant = TovuRatingVariant::star, .onAnswer = [this](const TovuAnswer &a) {
+            answers.push_back(a);
+        }});
+    const TovuRatingQuestionViewModel names(rating, TovuRatingVariant::star, 5, false);
+    ASSERT_TRUE(clickButton(names.accessibleName(3)));
+    // The screen reader hears the chosen one checked; the stars up to it fill.
+    EXPECT_TRUE(button(names.accessibleName(3))->state().checked);
+    EXPECT_FALSE(button(names.accessibleName(2))->state().checked);
+    auto *model
+        = qobject_cast<TovuRatingQuestionViewModel *>(sheet()->currentPage()->property("model").value<QObject *>());
+    ASSERT_TRUE(model);
+    EXPECT_TRUE(model->isSelected(2));
+    EXPECT_TRUE(shows(QStringLiteral("Anything to add?")));
+    ASSERT_TRUE(clickButton(QStringLiteral("Submit")));
+    ASSERT_EQ(answers.size(), 1u);
+    EXPECT_EQ(answers[0].value.at(0).colId, "3");
 }
 
 TEST_F(QuickSheet, SurveyTextIsShownAsPlainText)

@@ -13,6 +13,7 @@
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
@@ -145,6 +146,8 @@ public:
             this->nps(window, page, *nps);
         else if (auto *rows = qobject_cast<TovuMultiNPSQuestionViewModel *>(model))
             this->multiNps(window, page, *rows);
+        else if (auto *rating = qobject_cast<TovuRatingQuestionViewModel *>(model))
+            this->rating(window, page, *rating);
         auto *question = qobject_cast<TovuQuestionViewModel *>(model);
         return question && clickButton(window, page, question->actionTitle());
     }
@@ -223,6 +226,12 @@ private:
     {
         for (QAccessibleInterface *eight : nodes(page, QAccessible::Button, QStringLiteral("Score 8")))
             click(window, eight);
+        expected.push_back({model.questionId().toStdString(), {}, {}});
+    }
+
+    void rating(QQuickWindow *window, QQuickItem *page, const TovuRatingQuestionViewModel &model)
+    {
+        clickButton(window, page, model.accessibleName(std::min(4, model.buttonCount())));
         expected.push_back({model.questionId().toStdString(), {}, {}});
     }
 

@@ -11,6 +11,7 @@
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 
 #include <QApplication>
@@ -34,6 +35,7 @@ struct Pair {
     TovuQuestion question;
     /// What the respondent did before the picture, through the page's model.
     std::function<void(QObject *model)> act;
+    TovuRatingVariant variant = TovuRatingVariant::star;
 };
 
 std::vector<Pair> pairs()
@@ -95,6 +97,19 @@ std::vector<Pair> pairs()
          [](QObject *model) {
              qobject_cast<TovuMultiNPSQuestionViewModel *>(model)->selectScore(QStringLiteral("row-1"), 8);
          }},
+        {"rating-emoji",
+         {.id = "mood", .type = TovuQuestionType::rating, .title = "How do you feel about your order?"},
+         [](QObject *model) { qobject_cast<TovuRatingQuestionViewModel *>(model)->rate(4); },
+         TovuRatingVariant::emoji},
+        {"rating-stars",
+         {.id = "stars",
+          .type = TovuQuestionType::rating,
+          .title = "How was your delivery?",
+          .columns = Samples::choices("c-", {"Poor", "Fair", "Good", "Great", "Superb"}),
+          .showColLabels = true},
+         [](QObject *model) {
+             qobject_cast<TovuRatingQuestionViewModel *>(model)->rate(3);
+         }},
         {"thank-you",
          {.id = "thank_you_auto",
           .type = TovuQuestionType::thankYou,
@@ -117,7 +132,7 @@ QImage widgetsShot(const Pair &pair)
     host.show();
     TovuSheetPresenter presenter;
     presenter.present(surveyOf(pair.question), &host);
-    presenter.showQuestion(TovuPageRequest{.question = pair.question});
+    presenter.showQuestion(TovuPageRequest{.question = pair.question, .variant = pair.variant});
     QApplication::processEvents();
     QWidget *page = presenter.toasterView()->contentStackView()->itemAt(0)->widget();
     if (pair.act)
@@ -136,7 +151,7 @@ QImage quickShot(const Pair &pair)
         return {};
     TovuQuickPresenter presenter;
     presenter.present(surveyOf(pair.question), &window);
-    presenter.showQuestion(TovuPageRequest{.question = pair.question});
+    presenter.showQuestion(TovuPageRequest{.question = pair.question, .variant = pair.variant});
     QQuickItem *page = presenter.quickSheet()->currentPage();
     if (pair.act && page)
         pair.act(page->property("model").value<QObject *>());

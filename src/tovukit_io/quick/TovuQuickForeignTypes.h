@@ -11,6 +11,7 @@
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
@@ -113,5 +114,12 @@ struct TovuMultiNPSQuestionViewModelForeign {
     Q_GADGET
     QML_FOREIGN(TovuMultiNPSQuestionViewModel)
     QML_NAMED_ELEMENT(TovuMultiNPSQuestionViewModel)
+    QML_UNCREATABLE("made by the presenter")
+};
+
+struct TovuRatingQuestionViewModelForeign {
+    Q_GADGET
+    QML_FOREIGN(TovuRatingQuestionViewModel)
+    QML_NAMED_ELEMENT(TovuRatingQuestionViewModel)
     QML_UNCREATABLE("made by the presenter")
 };

@@ -12,6 +12,7 @@
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
@@ -222,6 +223,8 @@ QQuickItem *TovuQuickPresenter::createPage(QQmlEngine *engine, TovuPageRequest r
         return questionPage(engine, QLatin1StringView("TovuMultiNPSPage"), new TovuMultiNPSQuestionViewModel(q, last),
                             request);
     case TovuQuestionType::rating:
+        return questionPage(engine, QLatin1StringView("TovuRatingPage"),
+                            new TovuRatingQuestionViewModel(q, request.variant, request.maxRating, last), request);
     case TovuQuestionType::multiRating:
         return questionPage(engine, QLatin1StringView("TovuPlaceholderPage"), new TovuPlaceholderViewModel(q, last),
                             request);

@@ -1,5 +1,6 @@
 #include <tovukit_io/quick/TovuQuickStyle.h>
 
+#include <tovukit_io/graphics/TovuEmoji.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
@@ -126,6 +127,11 @@ QColor TovuQuickStyle::red() const
 QFont TovuQuickStyle::font(qreal size, int weight) const
 {
     return TovuThemeEngine::shared().font(size, static_cast<QFont::Weight>(weight));
+}
+
+QFont TovuQuickStyle::emojiFont(qreal pixelSize) const
+{
+    return TovuEmoji::font(pixelSize);
 }
 
 int TovuQuickStyle::durationMs(qreal seconds) const

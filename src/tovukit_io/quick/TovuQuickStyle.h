@@ -53,6 +53,8 @@ public:
 
     /// The theme's font at `size` points (scaled by the survey's base size) and `weight`.
     Q_INVOKABLE QFont font(qreal size, int weight) const;
+    /// The colour emoji font at `pixelSize`, for faces.
+    Q_INVOKABLE QFont emojiFont(qreal pixelSize) const;
     /// `seconds` scaled by the motion clock, in milliseconds (0 with motion off).
     Q_INVOKABLE int durationMs(qreal seconds) const;
     /// `color` at `alpha`.

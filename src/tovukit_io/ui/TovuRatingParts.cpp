@@ -12,6 +12,8 @@
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 
 #include <QLabel>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
+
 #include <QVBoxLayout>
 
 using Model = TovuRatingQuestionViewModel;
@@ -20,11 +22,11 @@ using Parts = TovuQuestionParts;
 namespace {
 
 // How column labels look, whether they are labels or painted by the row.
-constexpr int columnLabelSpacing = 2;
+const int columnLabelSpacing = qRound(TovuPageMetrics::columnLabelSpacing);
 
 QFont columnLabelFont()
 {
-    return Parts::font(10, QFont::Normal);
+    return Parts::font(TovuPageMetrics::columnLabelFontSize, QFont::Normal);
 }
 
 QColor columnLabelColor()

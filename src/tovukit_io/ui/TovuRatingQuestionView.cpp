@@ -10,6 +10,7 @@
 #include <tovukit_io/ui/kit/TovuFitLabel.h>
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuSymbolButton.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include <QLabel>
@@ -20,9 +21,10 @@ using Model = TovuRatingQuestionViewModel;
 
 namespace {
 
-constexpr int symbolHeight = 50;
-constexpr int faceHeight = 60;
-constexpr int tileHeight = 46;
+using Metrics = TovuPageMetrics;
+const int symbolHeight = qRound(Metrics::symbolButtonHeight);
+const int faceHeight = qRound(Metrics::faceButtonHeight);
+const int tileHeight = qRound(Metrics::tileHeight);
 
 QColor platform(TovuPlatformColors::Role role)
 {
@@ -37,8 +39,8 @@ bool isSymbolVariant(TovuRatingVariant variant)
 TovuButton *tileButton(int rating, QWidget *parent)
 {
     auto *tile = new TovuButton(QString::number(rating), parent);
-    tile->setFont(Parts::font(17, QFont::Bold));
-    tile->setCornerRadius(10);
+    tile->setFont(Parts::font(Metrics::tileFontSize, QFont::Bold));
+    tile->setCornerRadius(Metrics::tileCornerRadius);
     tile->setContentInsets(QMargins()); // ten numbers share a phone's width
     tile->setFixedHeight(tileHeight);
     return tile;
@@ -55,12 +57,12 @@ TovuRatingQuestionView::TovuRatingQuestionView(Model *model, QWidget *parent)
     : TovuQuestionView(model, parent)
     , m_model(model)
 {
-    QVBoxLayout *outer = Parts::pageStack(this, 20);
+    QVBoxLayout *outer = Parts::pageStack(this, qRound(Metrics::ratingSpacing));
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
 
     m_ratingRow = new TovuEqualWidthLayout;
-    m_ratingRow->setSpacing(8);
+    m_ratingRow->setSpacing(qRound(Metrics::ratingButtonSpacing));
     for (int rating = 1; rating <= m_model->buttonCount(); ++rating) {
         TovuButton *button = makeButton(rating);
         if (const std::optional<QString> label = m_model->columnLabel(rating))

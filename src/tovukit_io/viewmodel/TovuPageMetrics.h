@@ -1,6 +1,7 @@
 #pragma once
 
 #include <tovukit_io/viewmodel/TovuNPSBands.h>
+#include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 
 #include <QObject>
 
@@ -98,6 +99,22 @@ class TovuPageMetrics : public QObject
     Q_PROPERTY(qreal thankYouInitialVelocity MEMBER thankYouInitialVelocity CONSTANT)
     Q_PROPERTY(qreal redirectDelaySeconds MEMBER redirectDelaySeconds CONSTANT)
     Q_PROPERTY(qreal npsSpacing MEMBER npsSpacing CONSTANT)
+    Q_PROPERTY(qreal ratingSpacing MEMBER ratingSpacing CONSTANT)
+    Q_PROPERTY(qreal ratingButtonSpacing MEMBER ratingButtonSpacing CONSTANT)
+    Q_PROPERTY(qreal symbolButtonHeight MEMBER symbolButtonHeight CONSTANT)
+    Q_PROPERTY(qreal faceButtonHeight MEMBER faceButtonHeight CONSTANT)
+    Q_PROPERTY(qreal tileHeight MEMBER tileHeight CONSTANT)
+    Q_PROPERTY(qreal tileFontSize MEMBER tileFontSize CONSTANT)
+    Q_PROPERTY(qreal tileCornerRadius MEMBER tileCornerRadius CONSTANT)
+    Q_PROPERTY(qreal columnLabelFontSize MEMBER columnLabelFontSize CONSTANT)
+    Q_PROPERTY(qreal columnLabelSpacing MEMBER columnLabelSpacing CONSTANT)
+    Q_PROPERTY(qreal columnLabelMinimumScale MEMBER columnLabelMinimumScale CONSTANT)
+    Q_PROPERTY(qreal ratingSymbolPointSize MEMBER ratingSymbolPointSize CONSTANT)
+    Q_PROPERTY(qreal ratingEmojiSize MEMBER ratingEmojiSize CONSTANT)
+    Q_PROPERTY(qreal ratingChosenEmojiSize MEMBER ratingChosenEmojiSize CONSTANT)
+    Q_PROPERTY(qreal ratingFadedOpacity MEMBER ratingFadedOpacity CONSTANT)
+    Q_PROPERTY(qreal ratingTapScale MEMBER ratingTapScale CONSTANT)
+    Q_PROPERTY(qreal ratingTapSeconds MEMBER ratingTapSeconds CONSTANT)
     Q_PROPERTY(qreal multiNpsSpacing MEMBER multiNpsSpacing CONSTANT)
     Q_PROPERTY(qreal multiNpsRowsSpacing MEMBER multiNpsRowsSpacing CONSTANT)
     Q_PROPERTY(qreal multiNpsRowSpacing MEMBER multiNpsRowSpacing CONSTANT)
@@ -297,4 +314,24 @@ public:
     static constexpr qreal multiNpsScoreHeight = 36;
     static constexpr qreal multiNpsEndLabelFontSize = 10;
     static constexpr qreal multiNpsSeparatorHeight = 1;
+
+    // The rating page: its stack and one row of buttons sharing the width (symbols, faces or number tiles), with
+    // optional column labels under them.
+    static constexpr qreal ratingSpacing = 20;
+    static constexpr qreal ratingButtonSpacing = 8;
+    static constexpr qreal symbolButtonHeight = 50;
+    static constexpr qreal faceButtonHeight = 60;
+    static constexpr qreal tileHeight = 46;
+    static constexpr qreal tileFontSize = 17;
+    static constexpr qreal tileCornerRadius = 10;
+    static constexpr qreal columnLabelFontSize = 10;
+    static constexpr qreal columnLabelSpacing = 2;
+    static constexpr qreal columnLabelMinimumScale = 0.5;
+    // The symbol and face sizes and the bump of a chosen button are the rating view model's.
+    static constexpr qreal ratingSymbolPointSize = TovuRatingQuestionViewModel::symbolPointSize;
+    static constexpr qreal ratingEmojiSize = TovuRatingQuestionViewModel::emojiSize;
+    static constexpr qreal ratingChosenEmojiSize = TovuRatingQuestionViewModel::chosenEmojiSize;
+    static constexpr qreal ratingFadedOpacity = TovuRatingQuestionViewModel::fadedOpacity;
+    static constexpr qreal ratingTapScale = TovuRatingQuestionViewModel::tapScale;
+    static constexpr qreal ratingTapSeconds = TovuRatingQuestionViewModel::tapSeconds;
 };

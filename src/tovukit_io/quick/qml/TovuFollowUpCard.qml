@@ -1,17 +1,23 @@
 import QtQuick
 import TovuKit
 
-// What a chosen NPS score asks next: its question, and a text area or radio rows.
+// What a chosen score asks next: its question, and a text area or radio rows.
 Rectangle {
     id: card
 
-    required property TovuNPSQuestionViewModel model
+    property string question
+    property bool asksForText: true
+    property var optionIds: []
+    property var optionTexts: []
+    property string selectedOptionId
+    // The text shown in the area; edits go out through textEdited.
+    property string text
     property color accent: TovuStyle.primaryColor
-    readonly property bool asksForText: card.model.followUpKind === TovuNPSQuestionViewModel.FollowUpKind.text
+    signal textEdited(string text)
+    signal optionTapped(string optionId)
 
     width: parent ? parent.width : 0
     height: content.height + 2 * TovuPageMetrics.followUpPadding
-    visible: card.model.followUpShown
     radius: TovuPageMetrics.followUpCornerRadius
     color: TovuStyle.gray6
 
@@ -28,7 +34,7 @@ Rectangle {
             width: parent ? parent.width : 0
             wrapMode: Text.Wrap
             textFormat: Text.PlainText
-            text: card.model.followUpQuestion
+            text: card.question
             color: TovuStyle.textColor
             font: TovuStyle.font(TovuPageMetrics.followUpTitleFontSize, Font.DemiBold)
         }
@@ -55,10 +61,10 @@ Rectangle {
                 color: TovuStyle.label
                 selectionColor: card.accent
                 font: TovuStyle.font(TovuPageMetrics.followUpTextFontSize, Font.Normal)
-                text: card.model.followUpText
-                onTextChanged: if (text !== card.model.followUpText) card.model.followUpText = text
+                text: card.text
+                onTextChanged: if (text !== card.text) card.textEdited(text)
                 Accessible.role: Accessible.EditableText
-                Accessible.name: card.model.followUpQuestion
+                Accessible.name: card.question
                 Accessible.multiLine: true
             }
         }
@@ -69,15 +75,15 @@ Rectangle {
             spacing: TovuPageMetrics.followUpChoiceSpacing
 
             Repeater {
-                model: card.model.followUpOptionIds
+                model: card.optionIds
 
                 TovuOptionRow {
                     required property int index
                     required property string modelData
 
                     objectName: modelData
-                    text: card.model.followUpOptionTexts[index]
-                    chosen: card.model.selectedFollowUpOptionId === modelData
+                    text: card.optionTexts[index]
+                    chosen: card.selectedOptionId === modelData
                     accent: card.accent
                     rowHeight: TovuPageMetrics.followUpChoiceHeight
                     rowRadius: TovuPageMetrics.followUpChoiceCornerRadius
@@ -86,7 +92,7 @@ Rectangle {
                     textTrailing: TovuPageMetrics.followUpChoiceInsetTrailing
                     markSize: TovuPageMetrics.followUpRadioSize
                     markLeadingInset: TovuPageMetrics.followUpRadioLeading
-                    onTapped: card.model.selectFollowUpOption(modelData)
+                    onTapped: card.optionTapped(modelData)
                 }
             }
         }

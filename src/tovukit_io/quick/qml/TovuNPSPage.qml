@@ -30,8 +30,16 @@ TovuQuestionPage {
     }
 
     TovuFollowUpCard {
-        model: page.model
+        visible: page.model.followUpShown
+        question: page.model.followUpQuestion
+        asksForText: page.model.followUpKind === TovuNPSQuestionViewModel.FollowUpKind.text
+        optionIds: page.model.followUpOptionIds
+        optionTexts: page.model.followUpOptionTexts
+        selectedOptionId: page.model.selectedFollowUpOptionId
+        text: page.model.followUpText
         accent: page.accent
+        onTextEdited: function (edited) { page.model.followUpText = edited }
+        onOptionTapped: function (optionId) { page.model.selectFollowUpOption(optionId) }
     }
 
     TovuPageFooter {

@@ -1,5 +1,7 @@
 #include <tovukit_io/ui/kit/TovuCaptionRow.h>
 
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
+
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPaintEvent>
@@ -11,7 +13,7 @@
 namespace {
 
 // As TovuFitLabel: no smaller than half the font before eliding.
-constexpr qreal minimumScaleFactor = 0.5;
+constexpr qreal minimumScaleFactor = TovuPageMetrics::columnLabelMinimumScale;
 
 } // namespace
 
