@@ -12,7 +12,6 @@
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTextCursor>
-#include <QTime>
 #include <QVBoxLayout>
 
 namespace {
@@ -79,22 +78,10 @@ TovuDemoActivityPane::TovuDemoActivityPane(QWidget *parent)
 
 void TovuDemoActivityPane::appendLine(Source source, const QString &text)
 {
-    QString line = QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz  "));
-    switch (source) {
-    case Source::library:
-        line += text;
-        break;
-    case Source::signal:
-        line += QStringLiteral("◆ ") + text;
-        break;
-    case Source::demo:
-        line += QStringLiteral("● ") + text;
-        break;
-    }
     // Follow the newest line unless the reader has scrolled back.
     const QScrollBar *scroll = m_log->verticalScrollBar();
     const bool follow = !m_log->isVisible() || scroll->value() >= scroll->maximum() - 2;
-    m_log->appendPlainText(line);
+    m_log->appendPlainText(TovuDemoActivity::format(source, text));
     if (follow)
         m_log->moveCursor(QTextCursor::End);
 }
@@ -106,13 +93,9 @@ void TovuDemoActivityPane::setStoredResponses(const TovuDemoStoredResponses &res
     m_stored->clear();
     for (const TovuDemoStoredResponses::Entry &entry : responses.entries()) {
         const QString title = titleOf ? titleOf(entry.surveyId) : QString();
-        auto *item = new QListWidgetItem(tr("#%1  %2  %3 · %4 answers")
-                                             .arg(entry.id)
-                                             .arg(entry.receivedAt.mid(11, 8), title.isEmpty() ? entry.surveyId : title)
-                                             .arg(entry.answeredQuestions),
-                                         m_stored);
+        auto *item = new QListWidgetItem(entry.summary(title), m_stored);
         item->setData(Qt::UserRole, entry.prettyJson);
-        item->setToolTip(tr("Survey %1, response status \"%2\"").arg(entry.surveyId, entry.status));
+        item->setToolTip(entry.details());
     }
     const int count = m_stored->count();
     m_tabs->setTabText(1, tr("Stored responses (%1)").arg(count));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TovuDemoActivity.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -18,11 +20,7 @@ class TovuDemoActivityPane : public QWidget
 {
     Q_OBJECT
 public:
-    enum class Source {
-        library, ///< a TovuLog console line
-        signal, ///< a signal of the manager
-        demo, ///< the demo's own note
-    };
+    using Source = TovuDemoActivity::Source;
 
     explicit TovuDemoActivityPane(QWidget *parent = nullptr);
 

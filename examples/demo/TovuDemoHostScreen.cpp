@@ -1,6 +1,7 @@
 #include "TovuDemoHostScreen.h"
 
 #include "TovuDemoLook.h"
+#include "TovuDemoStorefront.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -10,25 +11,8 @@
 
 namespace {
 
-struct Colors {
-    QColor background, text, secondary, card, separator, brand, onBrand, alert;
-};
-
-Colors colors(bool dark)
-{
-    if (dark)
-        return {QColor(0x00, 0x00, 0x00), QColor(0xF2, 0xF2, 0xF7), QColor(0x98, 0x98, 0x9F),
-                QColor(0x1C, 0x1C, 0x1E), QColor(0x2C, 0x2C, 0x2E), TovuDemoLook::brandColor(true),
-                QColor(0x06, 0x1A, 0x0C), QColor(0xFF, 0x9F, 0x0A)};
-    return {QColor(0xFF, 0xFF, 0xFF),
-            QColor(0x11, 0x14, 0x12),
-            QColor(0x6B, 0x6F, 0x6C),
-            QColor(0xF1, 0xF4, 0xEF),
-            QColor(0xE5, 0xE5, 0xEA),
-            TovuDemoLook::brandColor(false),
-            Qt::white,
-            QColor(0xE6, 0x7E, 0x00)};
-}
+using Colors = TovuDemoLook::HostColors;
+using Storefront = TovuDemoStorefront;
 
 QFont pixelFont(const QWidget *widget, int pixelSize, QFont::Weight weight = QFont::Normal)
 {
@@ -46,16 +30,11 @@ QFont emojiFont(const QWidget *widget, int pixelSize)
     return f;
 }
 
-QString emoji(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-void drawStatusBar(QPainter &p, const QWidget *w, const Colors &c, bool online)
+void drawStatusBar(QPainter &p, const QWidget *w, const Colors &c, const Storefront &s, bool online)
 {
     p.setPen(c.text);
     p.setFont(pixelFont(w, 15, QFont::DemiBold));
-    p.drawText(QRectF(28, 12, 60, 22), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("9:41"));
+    p.drawText(QRectF(28, 12, 60, 22), Qt::AlignLeft | Qt::AlignVCenter, s.clock);
 
     const qreal right = w->width() - 24;
     // Battery.
@@ -85,17 +64,17 @@ void drawStatusBar(QPainter &p, const QWidget *w, const Colors &c, bool online)
     }
 }
 
-void drawHeader(QPainter &p, const QWidget *w, const Colors &c)
+void drawHeader(QPainter &p, const QWidget *w, const Colors &c, const Storefront &s)
 {
     p.setPen(Qt::NoPen);
     p.setBrush(c.brand);
     p.drawEllipse(QRectF(20, 56, 38, 38));
     p.setFont(emojiFont(w, 20));
     p.setPen(c.text);
-    p.drawText(QRectF(20, 56, 38, 38), Qt::AlignCenter, emoji("\xF0\x9F\xA7\xBA")); // 🧺
+    p.drawText(QRectF(20, 56, 38, 38), Qt::AlignCenter, s.logo);
     p.setFont(pixelFont(w, 20, QFont::Bold));
     p.setPen(c.text);
-    p.drawText(QRectF(68, 56, 200, 38), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Fresh Basket"));
+    p.drawText(QRectF(68, 56, 200, 38), Qt::AlignLeft | Qt::AlignVCenter, s.appName);
 
     const QRectF avatar(w->width() - 58, 56, 38, 38);
     p.setPen(Qt::NoPen);
@@ -103,10 +82,10 @@ void drawHeader(QPainter &p, const QWidget *w, const Colors &c)
     p.drawEllipse(avatar);
     p.setPen(c.brand);
     p.setFont(pixelFont(w, 16, QFont::Bold));
-    p.drawText(avatar, Qt::AlignCenter, QStringLiteral("A"));
+    p.drawText(avatar, Qt::AlignCenter, s.avatar);
 }
 
-void drawDeliveryCard(QPainter &p, const QWidget *w, const Colors &c, qreal top)
+void drawDeliveryCard(QPainter &p, const QWidget *w, const Colors &c, const Storefront &s, qreal top)
 {
     const QRectF card(20, top, w->width() - 40, 148);
     p.setPen(Qt::NoPen);
@@ -115,18 +94,17 @@ void drawDeliveryCard(QPainter &p, const QWidget *w, const Colors &c, qreal top)
 
     p.setPen(c.onBrand);
     p.setFont(pixelFont(w, 13, QFont::DemiBold));
-    p.drawText(QRectF(card.left() + 20, top + 18, 200, 18), Qt::AlignLeft | Qt::AlignVCenter,
-               QStringLiteral("Order #1042 · 14 items"));
+    p.drawText(QRectF(card.left() + 20, top + 18, 200, 18), Qt::AlignLeft | Qt::AlignVCenter, s.order);
     // The arrival time fits beside the van: the font gives way on narrow screens.
     const QRectF arrival(card.left() + 20, top + 40, card.width() - 96, 30);
-    const QString arriving = QStringLiteral("Arriving 18:40–19:00");
+    const QString &arriving = s.arrival;
     int size = 22;
     p.setFont(pixelFont(w, size, QFont::Bold));
     while (size > 14 && p.fontMetrics().horizontalAdvance(arriving) > arrival.width())
         p.setFont(pixelFont(w, --size, QFont::Bold));
     p.drawText(arrival, Qt::AlignLeft | Qt::AlignVCenter, arriving);
     p.setFont(emojiFont(w, 34));
-    p.drawText(QRectF(card.right() - 70, top + 14, 54, 54), Qt::AlignCenter, emoji("\xF0\x9F\x9A\x9A")); // 🚚
+    p.drawText(QRectF(card.right() - 70, top + 14, 54, 54), Qt::AlignCenter, s.vehicle);
 
     // Progress: packed, on the way (here), delivered.
     const qreal y = top + 98;
@@ -138,21 +116,18 @@ void drawDeliveryCard(QPainter &p, const QWidget *w, const Colors &c, qreal top)
     p.drawLine(QPointF(left, y), QPointF(left + step, y));
     p.setPen(QPen(faint, 3, Qt::SolidLine, Qt::RoundCap));
     p.drawLine(QPointF(left + step, y), QPointF(left + 2 * step, y));
-    const std::array<const char *, 3> labels{"Packed", "On the way", "Delivered"};
     p.setFont(pixelFont(w, 12, QFont::DemiBold));
     for (int i = 0; i < 3; ++i) {
         const QPointF centre(left + i * step, y);
+        const bool reached = i <= s.currentStep;
+        const qreal radius = i == s.currentStep ? 7.0 : 5.0;
         p.setPen(Qt::NoPen);
-        p.setBrush(i < 2 ? c.onBrand : faint);
-        p.drawEllipse(centre, i == 1 ? 7.0 : 5.0, i == 1 ? 7.0 : 5.0);
-        p.setPen(i < 2 ? c.onBrand : faint);
+        p.setBrush(reached ? c.onBrand : faint);
+        p.drawEllipse(centre, radius, radius);
+        p.setPen(reached ? c.onBrand : faint);
         const QRectF label(centre.x() - 50, y + 12, 100, 18);
         const int align = i == 0 ? Qt::AlignLeft : i == 2 ? Qt::AlignRight : Qt::AlignHCenter;
-        p.drawText(label.translated(i == 0       ? 44
-                                        : i == 2 ? -44
-                                                 : 0,
-                                    0),
-                   align | Qt::AlignVCenter, QString::fromLatin1(labels[static_cast<std::size_t>(i)]));
+        p.drawText(label.translated(i == 0 ? 44 : i == 2 ? -44 : 0, 0), align | Qt::AlignVCenter, s.steps.value(i));
     }
 }
 
@@ -169,17 +144,9 @@ void drawSectionTitle(QPainter &p, const QWidget *w, const Colors &c, qreal top,
     }
 }
 
-void drawBuyAgain(QPainter &p, const QWidget *w, const Colors &c, qreal top)
+void drawBuyAgain(QPainter &p, const QWidget *w, const Colors &c, const Storefront &s, qreal top)
 {
-    struct Item {
-        const char *emoji;
-        const char *name;
-        const char *price;
-    };
-    const std::array<Item, 4> items{{{"\xF0\x9F\xA5\x91", "Avocados", "€2.49"},
-                                     {"\xF0\x9F\x8D\x93", "Berries", "€3.29"},
-                                     {"\xF0\x9F\xA5\x96", "Baguette", "€1.19"},
-                                     {"\xF0\x9F\xA7\x80", "Cheddar", "€2.99"}}};
+    const auto &items = s.buyAgain;
     const qreal gap = 12;
     const qreal width = (w->width() - 40 - 3 * gap) / 4;
     for (std::size_t i = 0; i < items.size(); ++i) {
@@ -189,27 +156,20 @@ void drawBuyAgain(QPainter &p, const QWidget *w, const Colors &c, qreal top)
         p.drawRoundedRect(tile, 16, 16);
         p.setFont(emojiFont(w, 32));
         p.setPen(c.text);
-        p.drawText(QRectF(tile.left(), top + 10, tile.width(), 44), Qt::AlignCenter, emoji(items[i].emoji));
+        p.drawText(QRectF(tile.left(), top + 10, tile.width(), 44), Qt::AlignCenter, items[i].emoji);
         p.setFont(pixelFont(w, 12));
         p.drawText(QRectF(tile.left() + 4, top + 58, tile.width() - 8, 18), Qt::AlignCenter,
-                   p.fontMetrics().elidedText(QString::fromUtf8(items[i].name), Qt::ElideRight,
-                                              static_cast<int>(tile.width() - 8)));
+                   p.fontMetrics().elidedText(items[i].name, Qt::ElideRight, static_cast<int>(tile.width() - 8)));
         p.setFont(pixelFont(w, 13, QFont::Bold));
-        p.drawText(QRectF(tile.left(), top + 80, tile.width(), 18), Qt::AlignCenter, QString::fromUtf8(items[i].price));
+        p.drawText(QRectF(tile.left(), top + 80, tile.width(), 18), Qt::AlignCenter, items[i].price);
     }
 }
 
-void drawRecentOrders(QPainter &p, const QWidget *w, const Colors &c, qreal top, qreal bottom)
+void drawRecentOrders(QPainter &p, const QWidget *w, const Colors &c, const Storefront &s, qreal top, qreal bottom)
 {
-    struct Order {
-        const char *title;
-        const char *detail;
-    };
-    const std::array<Order, 3> orders{{{"Order #1041 · 12 items", "Delivered Tue 3 Jun · €48.20"},
-                                       {"Order #1037 · 8 items", "Delivered Sat 31 May · €31.75"},
-                                       {"Order #1030 · 21 items", "Delivered Sat 24 May · €86.10"}}};
+    const auto &orders = s.recentOrders;
     qreal y = top;
-    for (const Order &order : orders) {
+    for (const Storefront::PastOrder &order : orders) {
         if (y + 60 > bottom)
             break;
         p.setPen(Qt::NoPen);
@@ -217,14 +177,12 @@ void drawRecentOrders(QPainter &p, const QWidget *w, const Colors &c, qreal top,
         p.drawEllipse(QRectF(20, y + 8, 44, 44));
         p.setFont(emojiFont(w, 22));
         p.setPen(c.text);
-        p.drawText(QRectF(20, y + 8, 44, 44), Qt::AlignCenter, emoji("\xF0\x9F\x9B\x8D")); // 🛍
+        p.drawText(QRectF(20, y + 8, 44, 44), Qt::AlignCenter, s.pastOrderIcon);
         p.setFont(pixelFont(w, 15, QFont::DemiBold));
-        p.drawText(QRectF(76, y + 10, w->width() - 130, 20), Qt::AlignLeft | Qt::AlignVCenter,
-                   QString::fromUtf8(order.title));
+        p.drawText(QRectF(76, y + 10, w->width() - 130, 20), Qt::AlignLeft | Qt::AlignVCenter, order.title);
         p.setPen(c.secondary);
         p.setFont(pixelFont(w, 13));
-        p.drawText(QRectF(76, y + 32, w->width() - 130, 18), Qt::AlignLeft | Qt::AlignVCenter,
-                   QString::fromUtf8(order.detail));
+        p.drawText(QRectF(76, y + 32, w->width() - 130, 18), Qt::AlignLeft | Qt::AlignVCenter, order.detail);
         // Chevron.
         p.setPen(QPen(c.secondary, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         const qreal x = w->width() - 30;
@@ -238,13 +196,12 @@ void drawRecentOrders(QPainter &p, const QWidget *w, const Colors &c, qreal top,
     }
 }
 
-void drawTabBar(QPainter &p, const QWidget *w, const Colors &c)
+void drawTabBar(QPainter &p, const QWidget *w, const Colors &c, const Storefront &s)
 {
     const qreal top = w->height() - 83;
     p.fillRect(QRectF(0, top, w->width(), 83), c.background);
     p.setPen(QPen(c.separator, 1));
     p.drawLine(QPointF(0, top), QPointF(w->width(), top));
-    const std::array<const char *, 4> labels{"Home", "Search", "Basket", "Account"};
     const qreal width = w->width() / 4.0;
     for (int i = 0; i < 4; ++i) {
         const QColor colour = i == 0 ? c.brand : c.secondary;
@@ -287,8 +244,7 @@ void drawTabBar(QPainter &p, const QWidget *w, const Colors &c)
         p.drawPath(glyph);
         p.setPen(colour);
         p.setFont(pixelFont(w, 11, i == 0 ? QFont::DemiBold : QFont::Normal));
-        p.drawText(QRectF(width * i, top + 38, width, 16), Qt::AlignCenter,
-                   QString::fromLatin1(labels[static_cast<std::size_t>(i)]));
+        p.drawText(QRectF(width * i, top + 38, width, 16), Qt::AlignCenter, s.tabs.value(i));
     }
     // Home indicator.
     p.setPen(Qt::NoPen);
@@ -328,23 +284,22 @@ void TovuDemoHostScreen::paintEvent(QPaintEvent *)
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
-    const Colors c = colors(palette().color(QPalette::Window).lightness() < 128);
+    const Colors c = TovuDemoLook::hostColors(palette().color(QPalette::Window).lightness() < 128);
+    const Storefront &s = Storefront::freshBasket();
     p.fillRect(rect(), c.background);
 
-    drawStatusBar(p, this, c, m_online);
-    drawHeader(p, this, c);
+    drawStatusBar(p, this, c, s, m_online);
+    drawHeader(p, this, c, s);
     p.setPen(c.text);
     p.setFont(pixelFont(this, 26, QFont::Bold));
-    p.drawText(QRectF(20, 110, width() - 40, 36), Qt::AlignLeft | Qt::AlignVCenter,
-               QStringLiteral("Good evening, Ana"));
+    p.drawText(QRectF(20, 110, width() - 40, 36), Qt::AlignLeft | Qt::AlignVCenter, s.greeting);
     p.setPen(c.secondary);
     p.setFont(pixelFont(this, 15));
-    p.drawText(QRectF(20, 146, width() - 40, 22), Qt::AlignLeft | Qt::AlignVCenter,
-               QStringLiteral("Your order is on its way."));
-    drawDeliveryCard(p, this, c, 182);
-    drawSectionTitle(p, this, c, 350, QStringLiteral("Buy again"), QStringLiteral("See all"));
-    drawBuyAgain(p, this, c, 386);
-    drawSectionTitle(p, this, c, 518, QStringLiteral("Recent orders"), QString());
-    drawRecentOrders(p, this, c, 548, height() - 83);
-    drawTabBar(p, this, c);
+    p.drawText(QRectF(20, 146, width() - 40, 22), Qt::AlignLeft | Qt::AlignVCenter, s.status);
+    drawDeliveryCard(p, this, c, s, 182);
+    drawSectionTitle(p, this, c, 350, s.buyAgainTitle, s.seeAll);
+    drawBuyAgain(p, this, c, s, 386);
+    drawSectionTitle(p, this, c, 518, s.recentOrdersTitle, QString());
+    drawRecentOrders(p, this, c, s, 548, height() - 83);
+    drawTabBar(p, this, c, s);
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "TovuDemoActivity.h"
 #include "TovuDemoOptions.h"
 #include "TovuDemoSession.h"
+#include "TovuDemoStage.h"
 
 #include <QWidget>
 
@@ -12,9 +14,8 @@ class TovuDemoHostScreen;
 
 /// The demo's window: the host app's phone screen, where surveys appear, and
 /// beside it the controls and what happened (the log and the stored
-/// responses). It routes the library's console lines (TovuLog::setHandler)
-/// into its log while it exists.
-class TovuDemoWindow : public QWidget
+/// responses, told by its TovuDemoActivity).
+class TovuDemoWindow : public QWidget, public TovuDemoStage
 {
     Q_OBJECT
 public:
@@ -27,27 +28,25 @@ public:
     /// The web survey controls (a TovuDemoWebPanel), or null where the web path is not built.
     QWidget *webPanel() const { return m_webPanel; }
 
-    /// Configures the session and shows it in the controls and the log.
-    void configure(TovuDemoSession::Target target, const QString &id);
-    /// Sets the look of the app and of the surveys, and shows it in the controls.
-    void setLook(bool dark, TovuDemoOptions::Theme theme, const QColor &primaryColor);
-    /// Also writes the library's console lines to standard output.
-    void setEcho(bool echo) { m_echo = echo; }
-    /// Asks the backend for its stored responses and lists them.
-    void refreshStoredResponses();
+    void configure(TovuDemoSession::Target target, const QString &id) override;
+    QObject *host() const override;
+    std::unique_ptr<TovuDemoPagePlayer> createPagePlayer() override;
+    TovuDemoActivity &activity() override { return m_activityLog; }
+    void showStoredResponses() override;
+    QImage picture() override;
+    void open(bool fitToScreen) override;
+
+    void setLook(bool dark, TovuDemoOptions::Theme theme, const QColor &primaryColor) override;
     /// Fits the window to the screen it is on (the phone shrinks first).
     void fitToScreen();
-
-Q_SIGNALS:
-    void storedResponsesRefreshed();
 
 private:
     void connectSession();
     void connectControls();
-    void logLine(const QString &line);
 
     TovuDemoBackend &m_backend;
     TovuDemoSession &m_session;
+    TovuDemoActivity m_activityLog;
     TovuDemoHostScreen *m_screen = nullptr;
     TovuDemoControlPanel *m_controls = nullptr;
     TovuDemoActivityPane *m_activity = nullptr;
@@ -55,5 +54,4 @@ private:
     TovuDemoOptions::Theme m_theme = TovuDemoOptions::Theme::survey;
     QColor m_primaryColor = QColor(0x7C, 0x3A, 0xED);
     bool m_dark = false;
-    bool m_echo = false;
 };

@@ -6,19 +6,16 @@
 // uses them.
 
 #include "TovuDemoActivityPane.h"
+#include "TovuDemoAnswerChecks.h"
 #include "TovuDemoAutoplay.h"
 #include "TovuDemoBackend.h"
 #include "TovuDemoControlPanel.h"
 #include "TovuDemoHostScreen.h"
 #include "TovuDemoLook.h"
 #include "TovuDemoSession.h"
+#include "TovuDemoWidgetPagePlayer.h"
 #include "TovuDemoWindow.h"
 
-#include <TovuTestFiles.h>
-
-#include <tovukit_io/model/TovuDecode.h>
-#include <tovukit_io/network/TovuAPISurveyData.h>
-#include <tovukit_io/network/TovuAPISurveyDataJson.h>
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
@@ -31,36 +28,16 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <memory>
 #include <optional>
-#include <set>
 
-using Json = nlohmann::ordered_json;
-
-namespace {
-
-// The sample as the library reads it, straight from its file.
-TovuSurvey sampleSurvey()
-{
-    const auto document = tovuDecode<TovuAPIMainResponse>(
-        TovuTestFiles::readFile(TovuTestFiles::samplesDir() / "every-question-type.json"));
-    EXPECT_TRUE(document);
-    return document ? document->data.toNativeSurvey() : TovuSurvey{};
-}
-
-bool hasChoice(const std::optional<std::vector<TovuChoice>> &choices, const std::string &id)
-{
-    return choices && std::ranges::any_of(*choices, [&](const TovuChoice &c) { return c.id == id; });
-}
-
-} // namespace
+using namespace TovuDemoAnswerChecks;
 
 class Demo : public testing::Test
 {
@@ -84,7 +61,7 @@ protected:
         window.reset();
         session.reset();
         TovuMotion::setDurationScale(1);
-        QApplication::setPalette(TovuDemoLook::palette(false));
+        QApplication::setPalette(TovuDemoLook::palette(false, QApplication::style()->standardPalette()));
         TovuThemeEngine::shared().configureAppTheme(TovuAppTheme{});
     }
 
@@ -105,95 +82,6 @@ protected:
         return code.value_or(-1);
     }
 
-    /// Every answer given is what the backend stored for its question, and nothing else was stored.
-    void expectStoredAsGiven()
-    {
-        const Json stored = Json::parse(autoplay->storedResponse().toStdString(), nullptr, false);
-        ASSERT_TRUE(stored.is_object()) << autoplay->storedResponse().toStdString();
-        EXPECT_EQ(stored["surveyId"], sample->surveyId.toStdString());
-        EXPECT_EQ(stored["payload"]["collector_id"], sample->collectorId.toStdString());
-        const Json &response = stored["payload"]["responses"][0];
-        EXPECT_EQ(response["response_status"], "complete");
-        const Json &questions = response["questions"];
-
-        const auto &given = autoplay->given();
-        ASSERT_EQ(questions.size(), given.size()) << "one stored question per answer given";
-        for (const TovuDemoGivenAnswer &answer : given) {
-            SCOPED_TRACE(answer.questionId + " (" + answer.summary + ")");
-            const auto question
-                = std::ranges::find(questions, Json(answer.questionId), [](const Json &q) { return q["uuid"]; });
-            ASSERT_NE(question, questions.end()) << "not stored";
-            const Json &values = (*question)["answer"];
-            ASSERT_EQ(values.size(), answer.values.size());
-            for (std::size_t i = 0; i < values.size(); ++i) {
-                const TovuDemoGivenAnswer::Value &value = answer.values[i];
-                const Json &storedValue = values[i];
-                if (value.rowId.empty()) {
-                    EXPECT_TRUE(storedValue.contains("row_id")) << "the library's own row id";
-                } else {
-                    EXPECT_EQ(storedValue.value("row_id", ""), value.rowId);
-                }
-                if (value.colId) {
-                    EXPECT_EQ(storedValue.value("col_id", ""), *value.colId);
-                } else {
-                    EXPECT_FALSE(storedValue.contains("col_id"));
-                }
-                if (value.text) {
-                    EXPECT_EQ(storedValue.value("text", ""), *value.text);
-                } else {
-                    EXPECT_FALSE(storedValue.contains("text"));
-                }
-            }
-        }
-    }
-
-    /// The answers given are the survey's own options, rows and columns, and every page type was played.
-    void expectEveryTypeAnsweredWithItsOwnChoices()
-    {
-        const TovuSurvey survey = sampleSurvey();
-        std::set<TovuQuestionType> played;
-        std::set<std::string> answered;
-        for (const TovuDemoGivenAnswer &answer : autoplay->given()) {
-            SCOPED_TRACE(answer.questionId);
-            answered.insert(answer.questionId);
-            if (!answer.type) {
-                // A follow-up, asked by the NPS page: one of its options.
-                const auto parent = std::ranges::find_if(survey.questions, [&](const TovuQuestion &q) {
-                    return std::ranges::any_of(q.conditionalFollowUps.value_or(std::vector<TovuConditionalFollowUp>{}),
-                                               [&](const auto &f) { return f.questionId == answer.questionId; });
-                });
-                ASSERT_NE(parent, survey.questions.end());
-                continue;
-            }
-            played.insert(*answer.type);
-            const auto question = std::ranges::find(survey.questions, answer.questionId, &TovuQuestion::id);
-            ASSERT_NE(question, survey.questions.end());
-            EXPECT_EQ(question->type, *answer.type);
-            for (const auto &value : answer.values) {
-                if (!value.rowId.empty()) {
-                    EXPECT_TRUE(hasChoice(question->options, value.rowId)) << value.rowId;
-                }
-                if (value.colId) {
-                    EXPECT_TRUE(hasChoice(question->columns, *value.colId)) << *value.colId;
-                }
-                if (value.text) {
-                    EXPECT_FALSE(value.text->empty());
-                }
-            }
-        }
-        for (const TovuQuestion &question : survey.questions) {
-            if (question.type != TovuQuestionType::thankYou) {
-                EXPECT_TRUE(answered.contains(question.id)) << question.id << " was not answered";
-            }
-        }
-        for (const TovuQuestionType type :
-             {TovuQuestionType::singleChoice, TovuQuestionType::multipleChoice, TovuQuestionType::dropdown,
-              TovuQuestionType::singleTextBox, TovuQuestionType::multipleTextBox, TovuQuestionType::nps,
-              TovuQuestionType::multiNps, TovuQuestionType::rating, TovuQuestionType::multiRating})
-            EXPECT_TRUE(played.contains(type)) << rawValue(type);
-        EXPECT_EQ(answered.size(), autoplay->given().size()) << "each question answered once";
-    }
-
     TovuDemoBackend backend;
     QTemporaryDir shots;
     std::unique_ptr<TovuDemoSession> session;
@@ -208,18 +96,15 @@ TEST_F(Demo, AutoplayAnswersEveryPageAndTheBackendStoresItAsGiven)
 {
     ASSERT_EQ(play(false), 0) << err.join(u'\n').toStdString();
     EXPECT_TRUE(err.isEmpty()) << err.join(u'\n').toStdString();
-    expectEveryTypeAnsweredWithItsOwnChoices();
-    expectStoredAsGiven();
+    expectEveryTypeAnsweredWithItsOwnChoices(autoplay->given());
+    expectStoredAsGiven(autoplay->storedResponse(), autoplay->given(), *sample);
 
     // A few answers as a person reads them: the clicks chose these.
-    const auto summaryOf = [&](TovuQuestionType type) {
-        const auto found = std::ranges::find(autoplay->given(), std::optional(type), &TovuDemoGivenAnswer::type);
-        return found == autoplay->given().end() ? std::string() : found->summary;
-    };
-    EXPECT_EQ(summaryOf(TovuQuestionType::singleChoice), "A meal kit");
-    EXPECT_EQ(summaryOf(TovuQuestionType::dropdown), "Right in my delivery slot");
-    EXPECT_EQ(summaryOf(TovuQuestionType::nps), "9");
-    EXPECT_EQ(summaryOf(TovuQuestionType::multipleTextBox), "Ana Souza / ana.souza@example.com / Weekday evenings");
+    EXPECT_EQ(summaryOf(autoplay->given(), TovuQuestionType::singleChoice), "A meal kit");
+    EXPECT_EQ(summaryOf(autoplay->given(), TovuQuestionType::dropdown), "Right in my delivery slot");
+    EXPECT_EQ(summaryOf(autoplay->given(), TovuQuestionType::nps), "9");
+    EXPECT_EQ(summaryOf(autoplay->given(), TovuQuestionType::multipleTextBox),
+              "Ana Souza / ana.souza@example.com / Weekday evenings");
 
     // One progress line per page, intro and thank-you included.
     const auto pageLines
@@ -248,8 +133,8 @@ TEST_F(Demo, AutoplayOfflineFirstQueuesTheResponseAndTheFlushDeliversItOnce)
     EXPECT_EQ(autoplay->mostQueued(), 1);
     EXPECT_EQ(autoplay->flushed(), (std::pair{1, 0}));
     EXPECT_EQ(session->queuedCount(), 0);
-    expectEveryTypeAnsweredWithItsOwnChoices();
-    expectStoredAsGiven();
+    expectEveryTypeAnsweredWithItsOwnChoices(autoplay->given());
+    expectStoredAsGiven(autoplay->storedResponse(), autoplay->given(), *sample);
 
     const QString log = window->activityPane()->logText();
     EXPECT_TRUE(log.contains(QStringLiteral(">>> Tovu SDK: Submit failed, queuing for retry")));
@@ -306,7 +191,7 @@ TEST_F(Demo, TheWindowsControlsDriveTheLibrary)
     ASSERT_TRUE(QTest::qWaitFor([&] { return !session->isOnline(); }, 3000));
     EXPECT_FALSE(window->hostScreen()->isOnline());
     EXPECT_EQ(controls->onlineButton()->text(), QStringLiteral("Offline — go online"));
-    TovuDemoPagePlayer player(sheet, window->hostScreen());
+    TovuDemoWidgetPagePlayer player(sheet, window->hostScreen());
     bool played = false;
     QObject::connect(&player, &TovuDemoPagePlayer::finished, [&] { played = true; });
     player.start(9);

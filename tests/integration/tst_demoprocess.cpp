@@ -3,52 +3,24 @@
 // exits 0; a bad option, an unknown survey or a port in use is one line on
 // standard error and a non-zero exit, never a crash.
 
+#include "TovuDemoRun.h"
 #include "TovuDevServer.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 namespace {
 
-struct DemoRun {
-    int exitCode = -1;
-    QProcess::ExitStatus exitStatus = QProcess::CrashExit;
-    QString out;
-    QString err;
-};
-
-// Runs tovu-demo as `make demo` does on a machine without a display: no
-// DISPLAY, no WAYLAND_DISPLAY, no Qt platform chosen.
-DemoRun runDemo(const QStringList &arguments, const QString &workingDir = {})
+TovuDemoRun runDemo(const QStringList &arguments, const QString &workingDir = {})
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        environment.remove(QString::fromLatin1(name));
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    if (!workingDir.isEmpty())
-        process.setWorkingDirectory(workingDir);
-    process.start(QStringLiteral(TOVU_DEMO_EXECUTABLE), arguments);
-    DemoRun run;
-    if (!process.waitForFinished(30000)) {
-        process.kill();
-        process.waitForFinished();
-        ADD_FAILURE() << "tovu-demo did not finish";
-    }
-    run.exitCode = process.exitCode();
-    run.exitStatus = process.exitStatus();
-    run.out = QString::fromUtf8(process.readAllStandardOutput());
-    run.err = QString::fromUtf8(process.readAllStandardError());
-    return run;
+    return TovuDemoRun::headless(QStringLiteral(TOVU_DEMO_EXECUTABLE), arguments, workingDir);
 }
 
 QStringList lines(const QString &text)
 {
-    return text.split(u'\n', Qt::SkipEmptyParts);
+    return TovuDemoRun::lines(text);
 }
 
 } // namespace
@@ -57,32 +29,20 @@ TEST(DemoProgram, WithoutADisplayPlaysTheEveryTypeSurveyAndPrintsWhatWasStored)
 {
     QTemporaryDir folder;
     ASSERT_TRUE(folder.isValid());
-    const DemoRun run = runDemo({}, folder.path());
+    const TovuDemoRun run = runDemo({}, folder.path());
     ASSERT_EQ(run.exitStatus, QProcess::NormalExit) << run.err.toStdString();
     ASSERT_EQ(run.exitCode, 0) << run.out.toStdString() << run.err.toStdString();
     EXPECT_TRUE(run.out.startsWith(QStringLiteral("tovu-demo: no display here"))) << run.out.toStdString();
     EXPECT_TRUE(run.out.contains(QStringLiteral("\"Fresh Basket delivery feedback\" (every-question-type)")));
 
     // One line per page, in order.
-    const QStringList out = lines(run.out);
-    QStringList kinds;
-    for (const QString &line : out) {
-        if (line.startsWith(u' ') && line.contains(QStringLiteral("/11  ")))
-            kinds << line.simplified().section(u' ', 1, 1);
-    }
-    EXPECT_EQ(kinds.join(u' ').toStdString(),
+    EXPECT_EQ(run.pageKinds().toStdString(),
               "intro single-choice multiple-choice dropdown rating multi-rating nps "
               "multi-nps single-text-box multiple-text-box thank-you");
 
     // The stored response, printed as JSON between its heading and the next line of the demo.
-    const qsizetype heading
-        = out.indexOf(QStringLiteral("tovu-demo: the backend stored this response (GET /dev/responses):"));
-    ASSERT_GE(heading, 0) << run.out.toStdString();
-    QStringList json;
-    for (qsizetype i = heading + 1; i < out.size() && !out[i].startsWith(QStringLiteral("tovu-demo:")); ++i)
-        json << out[i];
-    const auto stored = nlohmann::ordered_json::parse(json.join(u'\n').toStdString(), nullptr, false);
-    ASSERT_TRUE(stored.is_object()) << json.join(u'\n').toStdString();
+    const auto stored = run.printedResponse(QStringLiteral("tovu-demo"));
+    ASSERT_TRUE(stored.is_object()) << run.out.toStdString();
     EXPECT_EQ(stored["payload"]["collector_id"], "collector-every-question-type");
     // Nine pages and the NPS page's follow-up.
     EXPECT_EQ(stored["payload"]["responses"][0]["questions"].size(), 10u);
@@ -128,14 +88,14 @@ TEST(DemoProgram, RefusalsAreOneLineAndANonZeroExit)
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.arguments.join(u' ').toStdString());
-        const DemoRun run = runDemo(c.arguments);
+        const TovuDemoRun run = runDemo(c.arguments);
         EXPECT_EQ(run.exitStatus, QProcess::NormalExit);
         EXPECT_EQ(run.exitCode, c.exitCode);
         EXPECT_EQ(lines(run.err), QStringList{c.line});
         EXPECT_TRUE(run.out.isEmpty()) << run.out.toStdString();
     }
 
-    const DemoRun help = runDemo({QStringLiteral("--help")});
+    const TovuDemoRun help = runDemo({QStringLiteral("--help")});
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_TRUE(help.out.startsWith(QStringLiteral("usage: tovu-demo"))) << help.out.toStdString();
 }

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <expected>
 
-/// What the command line asks of tovu-demo.
+/// What the command line asks of a demo program (tovu-demo, tovu-quickdemo).
 ///
 /// \code
 /// const auto options = TovuDemoOptions::parse({"--autoplay", "--survey", "onboarding"});
@@ -16,8 +16,8 @@
 /// \endcode
 ///
 /// Options are double-dash (`--survey ID` or `--survey=ID`); single-dash
-/// arguments (`-platform xcb`, with the value after them) are left for
-/// QApplication, except `-h`.
+/// arguments (`-platform xcb`, with the value after them) are left for the
+/// application object, except `-h`.
 class TovuDemoOptions
 {
 public:
@@ -46,12 +46,13 @@ public:
     std::uint16_t port = 0;
     /// Echo the library's console lines to standard output.
     bool verbose = false;
-    /// Arguments for QApplication (program name first).
+    /// Arguments for the application object (program name first).
     QStringList qtArguments;
 
     /// `arguments` without the program name. The error is one line, without a prefix.
-    static std::expected<TovuDemoOptions, QString> parse(const QStringList &arguments);
-    static QString usage();
+    static std::expected<TovuDemoOptions, QString> parse(const QStringList &arguments,
+                                                         const QString &program = QStringLiteral("tovu-demo"));
+    static QString usage(const QString &program = QStringLiteral("tovu-demo"));
     /// Whether no display is there to open a window on: the Qt platform is
     /// offscreen or minimal, or (on Linux) neither DISPLAY nor WAYLAND_DISPLAY
     /// is set and no platform was chosen.

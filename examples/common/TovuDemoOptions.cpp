@@ -17,10 +17,10 @@ std::expected<std::uint16_t, QString> portNumber(const QString &text)
 
 } // namespace
 
-std::expected<TovuDemoOptions, QString> TovuDemoOptions::parse(const QStringList &arguments)
+std::expected<TovuDemoOptions, QString> TovuDemoOptions::parse(const QStringList &arguments, const QString &program)
 {
     TovuDemoOptions options;
-    options.qtArguments << QStringLiteral("tovu-demo");
+    options.qtArguments << program;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments[i];
         if (argument == u"-h" || argument == u"--help") {
@@ -30,7 +30,7 @@ std::expected<TovuDemoOptions, QString> TovuDemoOptions::parse(const QStringList
         if (!argument.startsWith(u"--")) {
             if (!argument.startsWith(u'-') || argument.size() < 2)
                 return std::unexpected(QStringLiteral("unexpected argument \"%1\" (see --help)").arg(argument));
-            // Qt's own options, such as -platform xcb: QApplication takes them.
+            // Qt's own options, such as -platform xcb: the application object takes them.
             options.qtArguments << argument;
             if (i + 1 < arguments.size() && !arguments[i + 1].startsWith(u'-'))
                 options.qtArguments << arguments[++i];
@@ -104,24 +104,25 @@ std::expected<TovuDemoOptions, QString> TovuDemoOptions::parse(const QStringList
     return options;
 }
 
-QString TovuDemoOptions::usage()
+QString TovuDemoOptions::usage(const QString &program)
 {
-    return QStringLiteral(
-        "usage: tovu-demo [--autoplay] [--survey ID] [--screenshots DIR] [--palette-png] [--offline-first]\n"
-        "                 [--dark] [--theme host|survey|#RRGGBB] [--port N] [--verbose]\n"
-        "A host app that shows TovuKit's native surveys, against tovu-devserver started in-process.\n"
-        "  --autoplay         answer every page by itself, save a screenshot of each, print the\n"
-        "                     response the backend stored, and exit (the default without a display)\n"
-        "  --survey ID        the sample to show: file name without .json, survey id or collector id\n"
-        "                     (default: every-question-type)\n"
-        "  --screenshots DIR  where autoplay saves its PNGs (default: demo-screenshots)\n"
-        "  --palette-png      save them with 256 colours, about a third of the size\n"
-        "  --offline-first    submit while offline, come back online and let the queue flush\n"
-        "  --dark             dark appearance\n"
-        "  --theme T          host: the demo app's own theme; #RRGGBB: only the primary colour;\n"
-        "                     survey: the survey's theme and the platform look (default)\n"
-        "  --port N           port of the local backend (default 0: a free one)\n"
-        "  --verbose          also print the library's console lines\n");
+    const QString indent(program.size() + 8, u' ');
+    return QStringLiteral("usage: %1 [--autoplay] [--survey ID] [--screenshots DIR] [--palette-png] [--offline-first]\n"
+                          "%2[--dark] [--theme host|survey|#RRGGBB] [--port N] [--verbose]\n")
+               .arg(program, indent)
+        + QStringLiteral("A host app that shows TovuKit's native surveys, against tovu-devserver started in-process.\n"
+                         "  --autoplay         answer every page by itself, save a screenshot of each, print the\n"
+                         "                     response the backend stored, and exit (the default without a display)\n"
+                         "  --survey ID        the sample to show: file name without .json, survey id or collector id\n"
+                         "                     (default: every-question-type)\n"
+                         "  --screenshots DIR  where autoplay saves its PNGs (default: demo-screenshots)\n"
+                         "  --palette-png      save them with 256 colours, about a third of the size\n"
+                         "  --offline-first    submit while offline, come back online and let the queue flush\n"
+                         "  --dark             dark appearance\n"
+                         "  --theme T          host: the demo app's own theme; #RRGGBB: only the primary colour;\n"
+                         "                     survey: the survey's theme and the platform look (default)\n"
+                         "  --port N           port of the local backend (default 0: a free one)\n"
+                         "  --verbose          also print the library's console lines\n");
 }
 
 bool TovuDemoOptions::isHeadless()

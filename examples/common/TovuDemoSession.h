@@ -8,10 +8,10 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
-class QWidget;
 class TovuDemoBackend;
 
 /// What the demo host app does with the library: one survey manager against
@@ -21,10 +21,14 @@ class TovuDemoBackend;
 /// database is fresh each run too) and thank-you links that are only logged.
 ///
 /// The manager's signals are forwarded, so listeners connect once even when
-/// the manager is replaced (see configure()).
+/// the manager is replaced (see configure()). A host is whatever the front end
+/// linked in can cover: a QWidget, or a QQuickWindow or QQuickItem.
 class TovuDemoSession : public QObject
 {
     Q_OBJECT
+    /// The manager of the moment, for QML: it offers the same operations as the
+    /// `TovuNativeSurveyManager` singleton of `import TovuKit`.
+    Q_PROPERTY(QObject *manager READ managerObject NOTIFY managerChanged)
 public:
     enum class Target { collector, survey };
     Q_ENUM(Target)
@@ -33,6 +37,7 @@ public:
     ~TovuDemoSession() override;
 
     TovuNativeSurveyManager &manager() const { return *m_manager; }
+    QObject *managerObject() const { return m_manager.get(); }
 
     /// Configures the demo key with a collector id or a survey id; the key is
     /// verified and the survey pre-fetched. A manager keeps using a survey id
@@ -42,9 +47,11 @@ public:
     Target target() const { return m_target; }
     QString targetId() const { return m_targetId; }
 
-    void showNow(QWidget *host);
-    void intercept(double afterSeconds, QWidget *host);
-    void showLowestResponse(QWidget *host);
+    void showNow(QObject *host);
+    void intercept(double afterSeconds, QObject *host);
+    void showLowestResponse(QObject *host);
+    /// Every sample's survey id, as fetchAndPresentLowestResponseSurvey takes them.
+    QStringList sampleSurveyIds() const;
 
     /// Offline: the backend closes every connection unanswered and the path
     /// monitor reports no network. Online again: the backend answers, the
@@ -55,6 +62,9 @@ public:
     int queuedCount() const;
 
 Q_SIGNALS:
+    /// configure() made a fresh manager.
+    void managerChanged();
+    void targetChanged();
     void surveyShown(const QString &surveyId);
     void surveyDismissed(int answeredCount);
     void presentationRefused(const QString &reason);

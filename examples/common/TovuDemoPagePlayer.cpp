@@ -1,31 +1,14 @@
 #include "TovuDemoPagePlayer.h"
 
-#include "TovuDemoInput.h"
 #include "TovuDemoPng.h"
 
-#include <tovukit_io/ui/TovuDropdownQuestionView.h>
-#include <tovukit_io/ui/TovuIntroView.h>
-#include <tovukit_io/ui/TovuMultiNPSQuestionView.h>
-#include <tovukit_io/ui/TovuMultiRatingQuestionView.h>
-#include <tovukit_io/ui/TovuMultipleChoiceQuestionView.h>
-#include <tovukit_io/ui/TovuNPSQuestionView.h>
-#include <tovukit_io/ui/TovuRatingQuestionView.h>
-#include <tovukit_io/ui/TovuSingleChoiceQuestionView.h>
-#include <tovukit_io/ui/TovuTextBoxQuestionView.h>
-#include <tovukit_io/ui/TovuThankYouView.h>
-#include <tovukit_io/ui/TovuToasterView.h>
-#include <tovukit_io/ui/kit/TovuButton.h>
-#include <tovukit_io/ui/kit/TovuTextArea.h>
-#include <tovukit_io/ui/kit/TovuTextField.h>
-#include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuIntroViewModel.h>
+#include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
 
 #include <QDir>
-#include <QLabel>
-#include <QLayout>
-#include <QScrollArea>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
@@ -34,19 +17,10 @@ constexpr qint64 stepPatienceMs = 6000;
 constexpr qint64 pagePatienceMs = 8000;
 constexpr int retryMs = 30;
 
-QWidget *currentPage(const TovuToasterView *sheet)
-{
-    if (!sheet || sheet->contentStackView()->count() == 0)
-        return nullptr;
-    return sheet->contentStackView()->itemAt(0)->widget();
-}
-
 } // namespace
 
-TovuDemoPagePlayer::TovuDemoPagePlayer(std::function<TovuToasterView *()> sheet, QWidget *screen, QObject *parent)
+TovuDemoPagePlayer::TovuDemoPagePlayer(QObject *parent)
     : QObject(parent)
-    , m_sheet(std::move(sheet))
-    , m_screen(screen)
 {
     m_poll.setInterval(20);
     connect(&m_poll, &QTimer::timeout, this, &TovuDemoPagePlayer::poll);
@@ -77,35 +51,16 @@ void TovuDemoPagePlayer::stop()
     m_stepTimer.stop();
 }
 
-QString TovuDemoPagePlayer::kindName(const QWidget *page)
+QString TovuDemoPagePlayer::kindName(const QObject *model)
 {
-    if (qobject_cast<const TovuIntroView *>(page))
+    if (qobject_cast<const TovuIntroViewModel *>(model))
         return QStringLiteral("intro");
-    if (qobject_cast<const TovuThankYouView *>(page))
+    if (qobject_cast<const TovuThankYouViewModel *>(model))
         return QStringLiteral("thank-you");
-    const auto typeName = [](TovuQuestionType type) {
-        return QString::fromLatin1(rawValue(type)).toLower().replace(u'_', u'-');
-    };
-    if (qobject_cast<const TovuSingleChoiceQuestionView *>(page))
-        return typeName(TovuQuestionType::singleChoice);
-    if (qobject_cast<const TovuMultipleChoiceQuestionView *>(page))
-        return typeName(TovuQuestionType::multipleChoice);
-    if (qobject_cast<const TovuDropdownQuestionView *>(page))
-        return typeName(TovuQuestionType::dropdown);
-    if (const auto *text = qobject_cast<const TovuTextBoxQuestionView *>(page)) {
-        const std::optional<TovuQuestion> &question = text->question();
-        const bool multiple = question && question->type == TovuQuestionType::multipleTextBox;
-        return typeName(multiple ? TovuQuestionType::multipleTextBox : TovuQuestionType::singleTextBox);
-    }
-    if (qobject_cast<const TovuNPSQuestionView *>(page))
-        return typeName(TovuQuestionType::nps);
-    if (qobject_cast<const TovuMultiNPSQuestionView *>(page))
-        return typeName(TovuQuestionType::multiNps);
-    if (qobject_cast<const TovuRatingQuestionView *>(page))
-        return typeName(TovuQuestionType::rating);
-    if (qobject_cast<const TovuMultiRatingQuestionView *>(page))
-        return typeName(TovuQuestionType::multiRating);
-    return QStringLiteral("page");
+    const auto *question = qobject_cast<const TovuQuestionViewModel *>(model);
+    if (!question || !question->question())
+        return QStringLiteral("page");
+    return QString::fromLatin1(rawValue(question->question()->type)).toLower().replace(u'_', u'-');
 }
 
 // -- the page loop ---------------------------------------------------------------
@@ -114,37 +69,35 @@ void TovuDemoPagePlayer::poll()
 {
     if (!m_running || (m_page && !m_scriptDone))
         return; // a page's script is under way
-    QWidget *page = currentPage(m_sheet ? m_sheet() : nullptr);
-    if (page && page != m_page.data() && page->isVisible()) {
+    QObject *page = shownPage();
+    if (page && page != m_page.data()) {
         begin(page);
         return;
     }
     if (m_number > 0 && m_pageClock.elapsed() > pagePatienceMs) {
         QString why = QStringLiteral("page %1 (%2) did not move on after it was answered").arg(m_number).arg(m_kind);
         // A page that refuses its answer says why.
-        if (m_page) {
-            for (const QLabel *label : m_page->findChildren<QLabel *>()) {
-                if (label->isVisible() && label->text().startsWith(u"Please"))
-                    why += QStringLiteral(": \"%1\"").arg(label->text());
-            }
-        }
+        if (const auto *question = qobject_cast<const TovuQuestionViewModel *>(m_model.data());
+            question && question->isValidationVisible())
+            why += QStringLiteral(": \"%1\"").arg(question->validationMessage());
         fail(why);
     } else if (m_number == 0 && m_pageClock.elapsed() > 2 * pagePatienceMs) {
         fail(QStringLiteral("no survey page appeared"));
     }
 }
 
-void TovuDemoPagePlayer::begin(QWidget *page)
+void TovuDemoPagePlayer::begin(QObject *page)
 {
     m_page = page;
+    m_model = modelOf(page);
     ++m_number;
-    m_kind = kindName(page);
+    m_kind = kindName(m_model);
     m_title.clear();
     m_answer.clear();
     m_shot.clear();
     m_typed = 0;
     m_lastPage = false;
-    m_steps = script(page);
+    m_steps = m_model ? script(m_model) : stuck(QStringLiteral("reading the page's view model"));
     m_step = 0;
     m_scriptDone = false;
     m_stepClock.start();
@@ -200,42 +153,33 @@ void TovuDemoPagePlayer::fail(const QString &why)
 
 // -- steps -------------------------------------------------------------------------
 
-void TovuDemoPagePlayer::reveal(QWidget *widget)
+bool TovuDemoPagePlayer::ready(const Control &control) const
 {
-    // A page taller than the sheet scrolls: bring the control into view first, as a finger would.
-    if (TovuToasterView *sheet = m_sheet ? m_sheet() : nullptr; sheet && sheet->isAncestorOf(widget))
-        sheet->contentScrollArea()->ensureWidgetVisible(widget, 8, 16);
+    return m_page && isReady(m_page, control);
 }
 
-TovuDemoPagePlayer::Step TovuDemoPagePlayer::clickStep(std::function<QWidget *()> target, const QString &what)
+TovuDemoPagePlayer::Step TovuDemoPagePlayer::clickStep(Control target, const QString &what)
 {
     return {[this, target = std::move(target)] {
-                QWidget *widget = target();
-                if (!widget || !widget->isVisible() || !widget->isEnabled())
+                if (!ready(target))
                     return false;
-                reveal(widget);
-                TovuDemoInput::click(widget);
+                click(m_page, target);
                 return true;
             },
             QStringLiteral("clicking ") + what};
 }
 
-TovuDemoPagePlayer::Step TovuDemoPagePlayer::typeStep(std::function<QWidget *()> field, const QString &text,
-                                                      const QString &what)
+TovuDemoPagePlayer::Step TovuDemoPagePlayer::typeStep(Control field, const QString &text, const QString &what)
 {
     return {[this, field = std::move(field), text] {
-                QWidget *widget = field();
-                if (!widget || !widget->isVisible() || !widget->isEnabled())
+                if (!ready(field))
                     return false;
-                if (m_typed == 0) {
-                    reveal(widget);
-                    TovuDemoInput::click(widget);
-                    widget->setFocus(Qt::MouseFocusReason);
-                }
+                if (m_typed == 0)
+                    focus(m_page, field);
                 const qsizetype left = text.size() - m_typed;
                 const qsizetype count
                     = m_pace.charactersPerStep < 0 ? left : std::min<qsizetype>(m_pace.charactersPerStep, left);
-                TovuDemoInput::type(widget, text.mid(m_typed, count));
+                type(m_page, field, text.mid(m_typed, count));
                 m_typed += static_cast<int>(count);
                 if (m_typed < text.size())
                     return false; // more next time, so it reads as typing
@@ -248,12 +192,15 @@ TovuDemoPagePlayer::Step TovuDemoPagePlayer::typeStep(std::function<QWidget *()>
 TovuDemoPagePlayer::Step TovuDemoPagePlayer::shootStep()
 {
     return {[this] {
-                if (m_screenshotsDir.isEmpty() || !m_screen)
+                if (m_screenshotsDir.isEmpty())
+                    return true;
+                const QImage picture = screenshot();
+                if (picture.isNull())
                     return true;
                 const QString path
                     = QDir(m_screenshotsDir)
                           .filePath(QStringLiteral("%1-%2.png").arg(m_number, 2, 10, QChar(u'0')).arg(m_kind));
-                if (!TovuDemoPng::save(m_screen->grab().toImage(), path, m_palette)) {
+                if (!TovuDemoPng::save(picture, path, m_palette)) {
                     fail(QStringLiteral("cannot write %1").arg(path));
                     return false;
                 }

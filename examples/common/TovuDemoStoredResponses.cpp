@@ -53,3 +53,16 @@ const TovuDemoStoredResponses::Entry *TovuDemoStoredResponses::newestFor(const Q
     }
     return nullptr;
 }
+
+QString TovuDemoStoredResponses::Entry::summary(const QString &title) const
+{
+    return QStringLiteral("#%1  %2  %3 · %4 answers")
+        .arg(id)
+        .arg(receivedAt.mid(11, 8), title.isEmpty() ? surveyId : title)
+        .arg(answeredQuestions);
+}
+
+QString TovuDemoStoredResponses::Entry::details() const
+{
+    return QStringLiteral("Survey %1, response status \"%2\"").arg(surveyId, status);
+}

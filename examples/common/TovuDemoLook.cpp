@@ -2,22 +2,21 @@
 
 #include <tovukit_io/core/TovuNativeSurveyManager.h>
 
-#include <QApplication>
 #include <QFontDatabase>
-#include <QStyle>
+#include <QGuiApplication>
 
 QColor TovuDemoLook::brandColor(bool dark)
 {
     return dark ? QColor(0x4C, 0xC3, 0x6E) : QColor(0x1E, 0x8E, 0x3E);
 }
 
-QPalette TovuDemoLook::palette(bool dark)
+QPalette TovuDemoLook::palette(bool dark, const QPalette &light)
 {
     if (!dark) {
-        QPalette light = QApplication::style() ? QApplication::style()->standardPalette() : QPalette();
-        light.setColor(QPalette::Highlight, brandColor(false));
-        light.setColor(QPalette::Link, brandColor(false));
-        return light;
+        QPalette branded = light;
+        branded.setColor(QPalette::Highlight, brandColor(false));
+        branded.setColor(QPalette::Link, brandColor(false));
+        return branded;
     }
     QPalette palette;
     const QColor window(0x1C, 0x1C, 0x1E);
@@ -61,10 +60,26 @@ TovuAppTheme TovuDemoLook::hostTheme(bool dark)
     return theme;
 }
 
-void TovuDemoLook::apply(TovuNativeSurveyManager &manager, bool dark, TovuDemoOptions::Theme theme,
-                         const QColor &primaryColor)
+TovuDemoLook::HostColors TovuDemoLook::hostColors(bool dark)
 {
-    QApplication::setPalette(palette(dark));
+    if (dark)
+        return {QColor(0x00, 0x00, 0x00), QColor(0xF2, 0xF2, 0xF7), QColor(0x98, 0x98, 0x9F), QColor(0x1C, 0x1C, 0x1E),
+                QColor(0x2C, 0x2C, 0x2E), brandColor(true),         QColor(0x06, 0x1A, 0x0C), QColor(0xFF, 0x9F, 0x0A)};
+    return {QColor(0xFF, 0xFF, 0xFF),
+            QColor(0x11, 0x14, 0x12),
+            QColor(0x6B, 0x6F, 0x6C),
+            QColor(0xF1, 0xF4, 0xEF),
+            QColor(0xE5, 0xE5, 0xEA),
+            brandColor(false),
+            Qt::white,
+            QColor(0xE6, 0x7E, 0x00)};
+}
+
+void TovuDemoLook::apply(TovuNativeSurveyManager &manager, bool dark, TovuDemoOptions::Theme theme,
+                         const QColor &primaryColor, const QPalette &light)
+{
+    // QGuiApplication's palette reaches widgets too: QApplication passes the change on.
+    QGuiApplication::setPalette(palette(dark, light));
     switch (theme) {
     case TovuDemoOptions::Theme::survey:
         manager.configureTheme(TovuAppTheme{});
@@ -81,5 +96,5 @@ void TovuDemoLook::apply(TovuNativeSurveyManager &manager, bool dark, TovuDemoOp
 
 bool TovuDemoLook::isDark()
 {
-    return QApplication::palette().color(QPalette::Window).lightness() < 128;
+    return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }

@@ -1,40 +1,35 @@
 #include "TovuDemoAutoplay.h"
 
-#include "TovuDemoActivityPane.h"
+#include "TovuDemoActivity.h"
 #include "TovuDemoBackend.h"
-#include "TovuDemoHostScreen.h"
 #include "TovuDemoPng.h"
 #include "TovuDemoSession.h"
+#include "TovuDemoStage.h"
 #include "TovuDemoStoredResponses.h"
-#include "TovuDemoWindow.h"
-
-#include <tovukit_io/ui/TovuToasterView.h>
 
 #include <QDir>
 #include <QPointer>
 
-#include <ranges>
-
-TovuDemoAutoplay::TovuDemoAutoplay(TovuDemoWindow &window, TovuDemoSession &session, TovuDemoBackend &backend,
+TovuDemoAutoplay::TovuDemoAutoplay(TovuDemoStage &stage, TovuDemoSession &session, TovuDemoBackend &backend,
                                    const TovuDemoSample &sample, Settings settings,
                                    std::function<void(const QString &)> print,
                                    std::function<void(const QString &)> printError, QObject *parent)
     : QObject(parent)
-    , m_window(window)
+    , m_stage(stage)
     , m_session(session)
     , m_backend(backend)
     , m_sample(sample)
     , m_settings(std::move(settings))
     , m_print(std::move(print))
     , m_printError(std::move(printError))
-    , m_player([&session] { return session.manager().toasterView(); }, window.hostScreen())
+    , m_player(stage.createPagePlayer())
 {
     m_deadline.setSingleShot(true);
     connect(&m_deadline, &QTimer::timeout, this,
             [this] { fail(QStringLiteral("gave up after %1 s").arg(m_settings.timeoutMs / 1000)); });
-    connect(&m_player, &TovuDemoPagePlayer::pageDone, this, &TovuDemoAutoplay::pageDone);
-    connect(&m_player, &TovuDemoPagePlayer::finished, this, &TovuDemoAutoplay::surveyPlayed);
-    connect(&m_player, &TovuDemoPagePlayer::failed, this, &TovuDemoAutoplay::fail);
+    connect(m_player.get(), &TovuDemoPagePlayer::pageDone, this, &TovuDemoAutoplay::pageDone);
+    connect(m_player.get(), &TovuDemoPagePlayer::finished, this, &TovuDemoAutoplay::surveyPlayed);
+    connect(m_player.get(), &TovuDemoPagePlayer::failed, this, &TovuDemoAutoplay::fail);
 
     connect(&session, &TovuDemoSession::responseSent, this, [this] {
         m_sent = true;
@@ -63,9 +58,9 @@ void TovuDemoAutoplay::start()
         fail(QStringLiteral("cannot create the folder %1").arg(m_settings.screenshotsDir));
         return;
     }
-    m_print(QStringLiteral("tovu-demo: survey \"%1\" (%2), configured by collector id %3")
-                .arg(m_sample.title, m_sample.stem, m_sample.collectorId));
-    m_window.configure(TovuDemoSession::Target::collector, m_sample.collectorId);
+    say(QStringLiteral("survey \"%1\" (%2), configured by collector id %3")
+            .arg(m_sample.title, m_sample.stem, m_sample.collectorId));
+    m_stage.configure(TovuDemoSession::Target::collector, m_sample.collectorId);
     waitForPrefetch();
 }
 
@@ -106,8 +101,8 @@ void TovuDemoAutoplay::waitForPrefetch()
                 present();
                 return;
             }
-            m_print(QStringLiteral("tovu-demo: going offline: the backend stops answering and the path monitor "
-                                   "reports no network"));
+            say(QStringLiteral("going offline: the backend stops answering and the path monitor "
+                               "reports no network"));
             m_session.setOnline(false);
             waitUntil([this] { return !m_session.isOnline(); }, 5000, [this] { present(); },
                       QStringLiteral("could not go offline"));
@@ -124,16 +119,21 @@ void TovuDemoAutoplay::present()
     }
     const TovuSurvey &survey = *held;
     m_pages = static_cast<int>(survey.questions.size()) + (survey.introPage && survey.introPage->enabled ? 1 : 0);
-    m_print(QStringLiteral("tovu-demo: showing it over the host app's screen, %1 pages%2")
-                .arg(m_pages)
-                .arg(m_settings.screenshotsDir.isEmpty()
-                         ? QString()
-                         : QStringLiteral(", screenshots in %1/").arg(m_settings.screenshotsDir)));
-    m_player.setPace(m_settings.pace);
-    m_player.setScreenshotsDir(m_settings.screenshotsDir);
-    m_player.setPaletteScreenshots(m_settings.paletteScreenshots);
-    m_player.start(m_pages);
-    m_session.showNow(m_window.hostScreen());
+    say(QStringLiteral("showing it over the host app's screen, %1 pages%2")
+            .arg(m_pages)
+            .arg(m_settings.screenshotsDir.isEmpty()
+                     ? QString()
+                     : QStringLiteral(", screenshots in %1/").arg(m_settings.screenshotsDir)));
+    m_player->setPace(m_settings.pace);
+    m_player->setScreenshotsDir(m_settings.screenshotsDir);
+    m_player->setPaletteScreenshots(m_settings.paletteScreenshots);
+    m_player->start(m_pages);
+    m_session.showNow(m_stage.host());
+}
+
+void TovuDemoAutoplay::say(const QString &text)
+{
+    m_print(m_settings.program + QStringLiteral(": ") + text);
 }
 
 void TovuDemoAutoplay::pageDone(int number, int pages, const QString &kind, const QString &title, const QString &answer,
@@ -152,7 +152,7 @@ void TovuDemoAutoplay::pageDone(int number, int pages, const QString &kind, cons
 void TovuDemoAutoplay::surveyPlayed()
 {
     m_played = true;
-    m_screenshots = m_player.screenshots();
+    m_screenshots = m_player->screenshots();
     responseSettled();
 }
 
@@ -165,7 +165,7 @@ void TovuDemoAutoplay::responseSettled()
             fail(QStringLiteral("the response was not sent; it waits in the queue"));
             return;
         }
-        m_print(QStringLiteral("tovu-demo: response sent"));
+        say(QStringLiteral("response sent"));
         printStored();
         return;
     }
@@ -181,15 +181,15 @@ void TovuDemoAutoplay::comeBackOnline()
     if (m_backOnline)
         return;
     m_backOnline = true;
-    m_print(QStringLiteral("tovu-demo: response queued (%1 waiting); coming back online").arg(m_mostQueued));
+    say(QStringLiteral("response queued (%1 waiting); coming back online").arg(m_mostQueued));
     m_session.setOnline(true);
     waitUntil([this] { return m_flushDone; }, 15000,
               [this] {
-                  m_print(QStringLiteral("tovu-demo: the path monitor reported the network and the manager flushed "
-                                         "its queue: %1 sent, %2 failed, %3 waiting")
-                              .arg(m_flushed.first)
-                              .arg(m_flushed.second)
-                              .arg(m_session.queuedCount()));
+                  say(QStringLiteral("the path monitor reported the network and the manager flushed "
+                                     "its queue: %1 sent, %2 failed, %3 waiting")
+                          .arg(m_flushed.first)
+                          .arg(m_flushed.second)
+                          .arg(m_session.queuedCount()));
                   if (m_flushed.second != 0 || m_flushed.first == 0) {
                       fail(QStringLiteral("the flush did not send the queued response"));
                       return;
@@ -212,18 +212,18 @@ void TovuDemoAutoplay::printStored()
             return;
         }
         self->m_stored = entry->prettyJson;
-        self->m_print(QStringLiteral("tovu-demo: the backend stored this response (GET /dev/responses):"));
+        self->say(QStringLiteral("the backend stored this response (GET /dev/responses):"));
         self->m_print(entry->prettyJson);
         // The window shows it too; its picture is the last one.
         connect(
-            &self->m_window, &TovuDemoWindow::storedResponsesRefreshed, self,
+            &self->m_stage.activity(), &TovuDemoActivity::storedResponsesRefreshed, self,
             [self] {
                 if (self && !self->m_done)
                     self->succeed();
             },
             Qt::SingleShotConnection);
-        self->m_window.activityPane()->showStoredResponses();
-        self->m_window.refreshStoredResponses();
+        self->m_stage.showStoredResponses();
+        self->m_stage.activity().refreshStoredResponses();
     });
 }
 
@@ -231,18 +231,18 @@ void TovuDemoAutoplay::succeed()
 {
     if (!m_settings.screenshotsDir.isEmpty()) {
         const QString path = QDir(m_settings.screenshotsDir).filePath(QStringLiteral("demo-window.png"));
-        if (!TovuDemoPng::save(m_window.grab().toImage(), path, m_settings.paletteScreenshots)) {
+        if (!TovuDemoPng::save(m_stage.picture(), path, m_settings.paletteScreenshots)) {
             fail(QStringLiteral("cannot write %1").arg(path));
             return;
         }
         m_screenshots << path;
-        m_print(QStringLiteral("tovu-demo: %1 screenshots in %2/ (one per page, and demo-window.png)")
-                    .arg(m_screenshots.size())
-                    .arg(m_settings.screenshotsDir));
+        say(QStringLiteral("%1 screenshots in %2/ (one per page, and demo-window.png)")
+                .arg(m_screenshots.size())
+                .arg(m_settings.screenshotsDir));
     }
     m_done = true;
     m_deadline.stop();
-    m_print(QStringLiteral("tovu-demo: done in %1 s").arg(double(m_clock.elapsed()) / 1000.0, 0, 'f', 1));
+    say(QStringLiteral("done in %1 s").arg(double(m_clock.elapsed()) / 1000.0, 0, 'f', 1));
     Q_EMIT finished(0);
 }
 
@@ -252,17 +252,11 @@ void TovuDemoAutoplay::fail(const QString &why)
         return;
     m_done = true;
     m_deadline.stop();
-    m_player.stop();
+    m_player->stop();
     // The library's last error line says what went wrong underneath.
-    QString line = QStringLiteral("tovu-demo: ") + why;
-    const QStringList log = m_window.activityPane()->logText().split(u'\n');
-    for (const QString &entry : std::views::reverse(log)) {
-        if (entry.contains(u"Error") || entry.contains(QChar(0x274C))) {
-            // Without the log's time stamp ("HH:mm:ss.zzz  ").
-            line += QStringLiteral(" (last library error: %1)").arg(entry.mid(14).trimmed());
-            break;
-        }
-    }
+    QString line = m_settings.program + QStringLiteral(": ") + why;
+    if (const QString error = m_stage.activity().lastLibraryError(); !error.isEmpty())
+        line += QStringLiteral(" (last library error: %1)").arg(error);
     m_printError(line);
     Q_EMIT finished(1);
 }

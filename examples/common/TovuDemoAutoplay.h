@@ -9,16 +9,17 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 class TovuDemoBackend;
 class TovuDemoSession;
-class TovuDemoWindow;
+class TovuDemoStage;
 struct TovuDemoSample;
 
-/// The demo playing itself: configures one sample by its collector id, waits
-/// for the pre-fetch, shows the survey over the host screen and answers every
-/// page (TovuDemoPagePlayer), then waits for the response to reach the
+/// The demo playing itself, in either toolkit (TovuDemoStage): configures one
+/// sample by its collector id, waits for the pre-fetch, shows the survey over
+/// the host screen and answers every page (TovuDemoPagePlayer), then waits for the response to reach the
 /// backend and prints what the backend stored. With offlineFirst it goes
 /// offline before the survey, so the response is queued, then comes back
 /// online and waits for the flush. One line per step and per page goes to
@@ -36,9 +37,11 @@ public:
         TovuDemoPagePlayer::Pace pace = TovuDemoPagePlayer::briskPace;
         /// The whole run gives up after this long.
         int timeoutMs = 60000;
+        /// What the lines printed begin with.
+        QString program = QStringLiteral("tovu-demo");
     };
 
-    TovuDemoAutoplay(TovuDemoWindow &window, TovuDemoSession &session, TovuDemoBackend &backend,
+    TovuDemoAutoplay(TovuDemoStage &stage, TovuDemoSession &session, TovuDemoBackend &backend,
                      const TovuDemoSample &sample, Settings settings, std::function<void(const QString &)> print,
                      std::function<void(const QString &)> printError, QObject *parent = nullptr);
     ~TovuDemoAutoplay() override;
@@ -46,7 +49,7 @@ public:
     void start();
 
     /// What was answered, page by page (an NPS follow-up as its own entry).
-    const std::vector<TovuDemoGivenAnswer> &given() const { return m_player.given(); }
+    const std::vector<TovuDemoGivenAnswer> &given() const { return m_player->given(); }
     /// The stored response (the backend's entry: id, surveyId, receivedAt, payload) as JSON.
     const QString &storedResponse() const { return m_stored; }
     const QStringList &screenshots() const { return m_screenshots; }
@@ -68,18 +71,20 @@ private:
     void responseSettled();
     void comeBackOnline();
     void printStored();
+    /// Prints "program: text".
+    void say(const QString &text);
     void fail(const QString &why);
     void succeed();
     void waitUntil(std::function<bool()> condition, int timeoutMs, std::function<void()> then, QString whatFailed);
 
-    TovuDemoWindow &m_window;
+    TovuDemoStage &m_stage;
     TovuDemoSession &m_session;
     TovuDemoBackend &m_backend;
     const TovuDemoSample &m_sample;
     Settings m_settings;
     std::function<void(const QString &)> m_print;
     std::function<void(const QString &)> m_printError;
-    TovuDemoPagePlayer m_player;
+    std::unique_ptr<TovuDemoPagePlayer> m_player;
     QTimer m_deadline;
     QElapsedTimer m_clock;
     bool m_done = false;
@@ -93,5 +98,4 @@ private:
     std::pair<int, int> m_flushed{0, 0};
     QString m_stored;
     QStringList m_screenshots;
-    QString m_lastLibraryError;
 };

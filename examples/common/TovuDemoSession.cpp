@@ -7,7 +7,6 @@
 #include <QMetaEnum>
 #include <QPointer>
 #include <QUrl>
-#include <QWidget>
 
 namespace {
 
@@ -54,6 +53,7 @@ void TovuDemoSession::makeManager()
         Q_EMIT queueFlushed(sent, failed);
         Q_EMIT queueCountChanged(queuedCount());
     });
+    Q_EMIT managerChanged();
 }
 
 void TovuDemoSession::configure(Target target, const QString &id)
@@ -62,28 +62,34 @@ void TovuDemoSession::configure(Target target, const QString &id)
         makeManager();
     m_target = target;
     m_targetId = id;
+    Q_EMIT targetChanged();
     if (target == Target::collector)
         m_manager->configure(TovuDemoBackend::apiKey, TovuCollectorId{id.toStdString()}, zone);
     else
         m_manager->configure(TovuDemoBackend::apiKey, TovuSurveyId{id.toStdString()}, zone);
 }
 
-void TovuDemoSession::showNow(QWidget *host)
+void TovuDemoSession::showNow(QObject *host)
 {
     m_manager->fetchAndPresentSurvey(host);
 }
 
-void TovuDemoSession::intercept(double afterSeconds, QWidget *host)
+void TovuDemoSession::intercept(double afterSeconds, QObject *host)
 {
     m_manager->startIntercept(afterSeconds, host);
 }
 
-void TovuDemoSession::showLowestResponse(QWidget *host)
+void TovuDemoSession::showLowestResponse(QObject *host)
 {
-    std::vector<std::string> ids;
+    m_manager->fetchAndPresentLowestResponseSurvey(sampleSurveyIds(), host);
+}
+
+QStringList TovuDemoSession::sampleSurveyIds() const
+{
+    QStringList ids;
     for (const TovuDemoSample &sample : m_backend.samples())
-        ids.push_back(sample.surveyId.toStdString());
-    m_manager->fetchAndPresentLowestResponseSurvey(std::move(ids), host);
+        ids << sample.surveyId;
+    return ids;
 }
 
 void TovuDemoSession::setOnline(bool online)

@@ -19,6 +19,11 @@ public:
         QString status; ///< the response's response_status
         /// The stored entry as the backend has it, indented, keys in their order.
         QString prettyJson;
+
+        /// One line for a list: "#2  18:40:12  Onboarding · 4 answers" (`title`, else the survey id).
+        QString summary(const QString &title) const;
+        /// The survey's id and the response's status.
+        QString details() const;
     };
 
     /// Nothing when `body` is not the backend's list.
