@@ -28,19 +28,29 @@ test: build
 # survey with every question type by itself, prints the response the backend
 # stored and leaves a screenshot of every page. DEMO_ARGS passes options on,
 # e.g. make demo DEMO_ARGS="--offline-first --dark" (tovu-demo --help lists them).
-DEMO := $(BUILD_DIR)/examples/demo/tovu-demo
+# FRONTEND=quick runs its Qt Quick twin, tovu-quickdemo, instead (same options).
+FRONTEND ?= widgets
 DEMO_ARGS ?=
+ifeq ($(FRONTEND),quick)
+DEMO_TARGET := tovu-quickdemo
+DEMO := $(BUILD_DIR)/examples/quickdemo/tovu-quickdemo
+DEMO_SHOTS := $(BUILD_DIR)/quickdemo-screenshots
+else
+DEMO_TARGET := tovu-demo
+DEMO := $(BUILD_DIR)/examples/demo/tovu-demo
+DEMO_SHOTS := $(BUILD_DIR)/demo-screenshots
+endif
 
 demo: configure
-	cmake --build --preset $(PRESET) -j $(JOBS) --target tovu-demo
-	$(DEMO) --screenshots $(BUILD_DIR)/demo-screenshots $(DEMO_ARGS)
+	cmake --build --preset $(PRESET) -j $(JOBS) --target $(DEMO_TARGET)
+	$(DEMO) --screenshots $(DEMO_SHOTS) $(DEMO_ARGS)
 
 # The README's pictures in docs/screenshots/: the demo's autoplay, one PNG per
 # page of the every-question-type sample and one of the window, 256 colours.
 docs-screenshots: configure
 	cmake --build --preset $(PRESET) -j $(JOBS) --target tovu-demo
 	rm -f docs/screenshots/*.png
-	QT_QPA_PLATFORM=offscreen $(DEMO) --autoplay --palette-png --screenshots docs/screenshots > /dev/null
+	QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/examples/demo/tovu-demo --autoplay --palette-png --screenshots docs/screenshots > /dev/null
 	@ls docs/screenshots
 
 # PNGs of the survey sheet, its pages and the widget kit, light and dark, at 2x.
@@ -50,6 +60,7 @@ screenshots: build
 bench:
 	$(MAKE) build PRESET=release
 	@for b in build/release/bench/bench_*; do [ -x "$$b" ] && "$$b"; done
+	cmake --build --preset release --target bench_sizes
 	TOVU_CRASH_ROUNDS=1000 build/release/tests/integration/tst_queuecrash
 
 format:
