@@ -90,7 +90,8 @@ public:
     TovuNativeSurveyManager manager;
 };
 
-TovuQuestion question(TovuQuestionType type, int options = 4)
+// `options` options (a grid's rows), and `columns` columns with labels for a grid.
+TovuQuestion question(TovuQuestionType type, int options = 4, int columns = 0)
 {
     TovuQuestion q{.id = "q",
                    .type = type,
@@ -99,6 +100,12 @@ TovuQuestion question(TovuQuestionType type, int options = 4)
                    .options = std::vector<TovuChoice>{}};
     for (int i = 0; i < options; ++i)
         q.options->push_back({.id = "o" + std::to_string(i), .text = "Option number " + std::to_string(i + 1)});
+    if (columns > 0) {
+        q.columns = std::vector<TovuChoice>{};
+        for (int i = 0; i < columns; ++i)
+            q.columns->push_back({.id = "c" + std::to_string(i), .text = "Level " + std::to_string(i + 1)});
+        q.showColLabels = true;
+    }
     return q;
 }
 
@@ -126,17 +133,17 @@ void presentFirstPage(benchmark::State &state, FrontEnd frontEnd)
     }
 }
 
-// From one page to the next of `type`, until it is in a rendered frame.
-void pageTransition(benchmark::State &state, FrontEnd frontEnd, TovuQuestionType type)
+// From one page to the next, `to`, until it is in a rendered frame.
+void pageTransition(benchmark::State &state, FrontEnd frontEnd, TovuQuestion to, TovuRatingVariant variant)
 {
     Session session;
-    session.manager.configure(surveyOf({question(TovuQuestionType::singleChoice), question(type)}));
+    session.manager.configure(surveyOf({question(TovuQuestionType::singleChoice), std::move(to)}));
     TovuSurveyPresenter *presenter = session.manager.presenter();
     TovuSurvey survey = *session.manager.survey();
     session.manager.presentSurvey(hosts->host(frontEnd));
     hosts->frame(frontEnd);
     for (auto _ : state) {
-        presenter->showQuestion(TovuPageRequest{.question = survey.questions[1]});
+        presenter->showQuestion(TovuPageRequest{.question = survey.questions[1], .variant = variant});
         benchmark::DoNotOptimize(hosts->frame(frontEnd));
         state.PauseTiming();
         presenter->showQuestion(TovuPageRequest{.question = survey.questions[0]});
@@ -182,12 +189,27 @@ void registerAll()
         const std::string suffix = std::string("/") + name;
         benchmark::RegisterBenchmark(("BM_FirstPage" + suffix).c_str(), presentFirstPage, frontEnd)
             ->Unit(benchmark::kMillisecond);
-        for (const auto &[typeName, type] :
-             {std::pair{"single", Type::singleChoice}, std::pair{"multiple", Type::multipleChoice},
-              std::pair{"dropdown", Type::dropdown}, std::pair{"text", Type::multipleTextBox},
-              std::pair{"thankYou", Type::thankYou}}) {
-            benchmark::RegisterBenchmark(("BM_PageTransition/" + std::string(typeName) + suffix).c_str(),
-                                         pageTransition, frontEnd, type)
+        const struct {
+            const char *name;
+            TovuQuestion question;
+            TovuRatingVariant variant = TovuRatingVariant::star;
+        } pages[] = {
+            {"single", question(Type::singleChoice)},
+            {"multiple", question(Type::multipleChoice)},
+            {"dropdown", question(Type::dropdown)},
+            {"text", question(Type::multipleTextBox)},
+            {"nps", question(Type::nps)},
+            {"multiNps10", question(Type::multiNps, 10)},
+            {"ratingStars", question(Type::rating)},
+            {"ratingEmoji", question(Type::rating), TovuRatingVariant::emoji},
+            {"ratingNumbers", question(Type::rating), TovuRatingVariant::numeric},
+            {"multiRating10x10", question(Type::multiRating, 10, 10)},
+            {"multiRatingEmoji10x10", question(Type::multiRating, 10, 10), TovuRatingVariant::emoji},
+            {"thankYou", question(Type::thankYou)},
+        };
+        for (const auto &page : pages) {
+            benchmark::RegisterBenchmark(("BM_PageTransition/" + std::string(page.name) + suffix).c_str(),
+                                         pageTransition, frontEnd, page.question, page.variant)
                 ->Unit(benchmark::kMillisecond);
         }
         benchmark::RegisterBenchmark(("BM_SheetMemory" + suffix).c_str(), sheetMemory, frontEnd)->Iterations(3);

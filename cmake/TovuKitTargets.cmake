@@ -26,6 +26,11 @@ function(tovukit_apply_settings target)
     if(TOVUKIT_WERROR)
       target_compile_options(${target} PRIVATE -Werror)
     endif()
+    # Each function and object in a section of its own: a host linking with
+    # --gc-sections (Android's default) keeps only what it reaches.
+    if(type STREQUAL "STATIC_LIBRARY" OR type STREQUAL "OBJECT_LIBRARY")
+      target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-ffunction-sections -fdata-sections>)
+    endif()
   endif()
 endfunction()
 

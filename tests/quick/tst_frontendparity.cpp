@@ -11,6 +11,7 @@
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 
@@ -228,6 +229,39 @@ TEST_F(FrontEndParity, RatingPagesPlaceTheirButtonsAlikeInEveryVariant)
     const TovuRatingQuestionViewModel labelled(rating, TovuRatingVariant::star, 5, false);
     compare(TovuPageRequest{.question = rating},
             {{QAccessible::CheckBox, labelled.accessibleName(1)}, {QAccessible::CheckBox, labelled.accessibleName(4)}});
+}
+
+TEST_F(FrontEndParity, MultiRatingGridsPlaceTheirCellsAlike)
+{
+    // Three columns share the row's width; seven keep their natural widths (wider where a label
+    // needs it) and scroll.
+    TovuQuestion grid{.id = "grid",
+                      .type = TovuQuestionType::multiRating,
+                      .title = "Rate each part of your order",
+                      .subtitle = "One rating per row",
+                      .isRequired = true,
+                      .options = options({"Freshness", "Packing", "Delivery time"}),
+                      .columns = options({"Poor", "Fair", "Good"})};
+    const auto tapFirstRow = [](QObject *model) {
+        qobject_cast<TovuMultiRatingQuestionViewModel *>(model)->tap(QStringLiteral("o0::o2"));
+    };
+    const auto compareGrid = [&](TovuRatingVariant variant, std::initializer_list<int> positions) {
+        SCOPED_TRACE(std::string(rawValue(variant)) + ", " + std::to_string(grid.columns->size()) + " columns");
+        const TovuMultiRatingQuestionViewModel names(grid, variant, false);
+        std::vector<Control> controls{text("Rate each part of your order"), text("One rating per row"),
+                                      text("Freshness"), text("Delivery time"), button("Next \u2192")};
+        for (const int row : {0, 2})
+            for (const int position : positions)
+                controls.push_back({QAccessible::CheckBox, names.accessibleName(row, position)});
+        compare(TovuPageRequest{.question = grid, .variant = variant}, controls, tapFirstRow);
+    };
+    for (const TovuRatingVariant variant :
+         {TovuRatingVariant::star, TovuRatingVariant::emoji, TovuRatingVariant::numeric})
+        compareGrid(variant, {1, 2, 3});
+    grid.columns = options({"Very poor", "Poor", "Fair", "Good", "Very good", "Excellent", "Outstanding"});
+    grid.showColLabels = true;
+    for (const TovuRatingVariant variant : {TovuRatingVariant::heart, TovuRatingVariant::emoji})
+        compareGrid(variant, {1, 2, 4});
 }
 
 TEST_F(FrontEndParity, IntroAndThankYouPagesPlaceTheirTextsAlike)

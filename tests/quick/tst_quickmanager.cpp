@@ -9,6 +9,7 @@
 #include "TovuQuickSurveyClicker.h"
 
 #include <tovukit_io/core/TovuNativeSurveyManager.h>
+#include <tovukit_io/core/TovuSurveyPresenter.h>
 #include <tovukit_io/platform/TovuManualPathMonitor.h>
 #include <tovukit_io/platform/TovuMemoryKeyValueStore.h>
 #include <tovukit_io/platform/TovuUrlOpener.h>
@@ -26,6 +27,7 @@ namespace {
 using Refusal = TovuNativeSurveyManager::PresentationRefusal;
 
 const std::string onboardingId = "9ae5c581-202c-4dd1-b268-dab86f00c0e7";
+const std::string everyTypeId = "7ac257b7-e00d-4e29-bb03-2fd59a7b8d9e";
 
 // What the host adds: it drives the manager through its QML singleton.
 constexpr QByteArrayView hostMembers = R"QML(
@@ -77,39 +79,49 @@ protected:
     TovuQuickSurveyClicker clicker;
 };
 
-TEST_F(QuickManager, AQmlHostAnswersASurveyAndTheBackendStoresIt)
+TEST_F(QuickManager, AQmlHostAnswersEveryQuestionTypeAndTheBackendStoresIt)
 {
     // The singleton is the manager C++ hosts use, with the library's own parts.
     TovuNativeSurveyManager &manager = TovuNativeSurveyManager::shared();
     TovuNetworkService::shared().setBaseURLOverride(url);
     QSignalSpy shown(&manager, &TovuNativeSurveyManager::surveyShown);
     QSignalSpy sent(&manager, &TovuNativeSurveyManager::responseSent);
-    QMetaObject::invokeMethod(window, "configure", Q_ARG(QVariant, QStringLiteral("tovu-demo-key")),
-                              Q_ARG(QVariant, QString::fromStdString(onboardingId)));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return hasLineStartingWith(">>> Tovu SDK: Survey pre-fetched"); }, 10000));
-    QMetaObject::invokeMethod(window, "show");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return shown.size() == 1; }, 3000));
-    auto *sheet = manager.quickSheet();
-    ASSERT_TRUE(sheet);
-    EXPECT_EQ(sheet->parentItem(), window->contentItem()) << "the sheet covers the window";
+    // An intro page, choices, a dropdown and text boxes; then every scale, rating variant and grid.
+    for (const auto &[surveyId, leastPages] : {std::pair{onboardingId, 6}, std::pair{everyTypeId, 9}}) {
+        SCOPED_TRACE(surveyId);
+        shown.clear();
+        sent.clear();
+        clicker.expected.clear();
+        log.clear();
+        QMetaObject::invokeMethod(window, "configure", Q_ARG(QVariant, QStringLiteral("tovu-demo-key")),
+                                  Q_ARG(QVariant, QString::fromStdString(surveyId)));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return hasLineStartingWith(">>> Tovu SDK: Survey pre-fetched"); }, 10000));
+        QMetaObject::invokeMethod(window, "show");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return shown.size() == 1; }, 3000));
+        auto *sheet = manager.quickSheet();
+        ASSERT_TRUE(sheet);
+        EXPECT_EQ(sheet->parentItem(), window->contentItem()) << "the sheet covers the window";
 
-    const int pages = clicker.answerAll(window, [&] { return manager.quickSheet(); });
-    EXPECT_GE(pages, 6);
-    ASSERT_TRUE(manager.quickSheet());
-    QQuickItem *last = manager.quickSheet()->currentPage();
-    ASSERT_TRUE(last);
-    EXPECT_TRUE(qobject_cast<TovuThankYouViewModel *>(last->property("model").value<QObject *>()))
-        << "the thank-you page stays";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return sent.size() == 1; }, 5000));
-    EXPECT_EQ(window->property("hostTaps").toInt(), 0) << "no click went through the sheet";
+        const int pages = clicker.answerAll(window, [&] { return manager.quickSheet(); });
+        EXPECT_GE(pages, leastPages);
+        ASSERT_TRUE(manager.quickSheet());
+        QQuickItem *last = manager.quickSheet()->currentPage();
+        ASSERT_TRUE(last);
+        EXPECT_TRUE(qobject_cast<TovuThankYouViewModel *>(last->property("model").value<QObject *>()))
+            << "the thank-you page stays";
+        ASSERT_TRUE(QTest::qWaitFor([&] { return sent.size() == 1; }, 5000));
+        EXPECT_EQ(window->property("hostTaps").toInt(), 0) << "no click went through the sheet";
 
-    const Json stored = storedFor(onboardingId);
-    ASSERT_EQ(stored.size(), 1u);
-    const Json &item = stored[0]["payload"]["responses"][0];
-    EXPECT_EQ(item["response_status"], "complete");
-    EXPECT_EQ(item["custom_variables"],
-              (Json{{"city", "Berlin"}, {"email", "ana@example.com"}, {"fName", "Ana"}, {"plan", "pro"}}));
-    TovuAnsweredPages::check(item, clicker.expected);
+        const Json stored = storedFor(surveyId);
+        ASSERT_EQ(stored.size(), 1u);
+        const Json &item = stored[0]["payload"]["responses"][0];
+        EXPECT_EQ(item["response_status"], "complete");
+        EXPECT_EQ(item["custom_variables"],
+                  (Json{{"city", "Berlin"}, {"email", "ana@example.com"}, {"fName", "Ana"}, {"plan", "pro"}}));
+        TovuAnsweredPages::check(item, clicker.expected);
+        manager.presenter()->dismiss();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !manager.quickSheet(); }, 3000));
+    }
 
     // A flush from QML calls the script back.
     QMetaObject::invokeMethod(window, "flush");

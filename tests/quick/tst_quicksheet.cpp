@@ -10,10 +10,12 @@
 #include <tovukit_io/quick/TovuQuickPresenter.h>
 #include <tovukit_io/quick/TovuQuickSheet.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 
+#include <QAccessibleActionInterface>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQmlApplicationEngine>
@@ -271,8 +273,11 @@ TEST_F(QuickSheet, EveryMultiNPSRowTakesItsOwnScore)
     const auto eights = Clicker::nodes(sheet(), QAccessible::Button, QStringLiteral("Score 8"));
     ASSERT_EQ(eights.size(), 3u);
     EXPECT_EQ(eights[1]->text(QAccessible::Description), QStringLiteral("Option 1"));
-    for (QAccessibleInterface *eight : eights)
-        ASSERT_TRUE(Clicker::click(window, eight));
+    ASSERT_TRUE(Clicker::click(window, eights[0]));
+    ASSERT_TRUE(Clicker::click(window, eights[1]));
+    // A screen reader's press chooses as a tap does.
+    ASSERT_TRUE(eights[2]->actionInterface());
+    eights[2]->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     ASSERT_TRUE(clickButton(QStringLiteral("Next \u2192")));
     ASSERT_EQ(answers.size(), 1u);
     ASSERT_EQ(answers[0].value.size(), 3u);
@@ -302,6 +307,57 @@ TEST_F(QuickSheet, ARatingFillsAsItsVariantSaysAndReportsItsColumn)
     ASSERT_TRUE(clickButton(QStringLiteral("Submit")));
     ASSERT_EQ(answers.size(), 1u);
     EXPECT_EQ(answers[0].value.at(0).colId, "3");
+}
+
+TEST_F(QuickSheet, AGridRatesEachRowAndItsLongRowsScrollSideways)
+{
+    TovuQuestion grid = question(TovuQuestionType::multiRating);
+    grid.columns = options(8); // from six columns on, a row scrolls
+    grid.showColLabels = true;
+    QQuickItem *page = show(grid);
+    ASSERT_TRUE(page);
+    const TovuMultiRatingQuestionViewModel names(grid, TovuRatingVariant::star, false);
+    const auto cell = [&](int row, int position) {
+        return button(names.accessibleName(row, position));
+    };
+    ASSERT_TRUE(clickButton(QStringLiteral("Next \u2192")));
+    EXPECT_TRUE(shows(QStringLiteral("Please rate all items.")));
+    EXPECT_EQ(page->x(), 0) << "only the message shakes";
+
+    ASSERT_TRUE(Clicker::click(window, cell(0, 3)));
+    EXPECT_TRUE(cell(0, 3)->state().checked) << "a screen reader hears the choice";
+    EXPECT_FALSE(cell(0, 2)->state().checked);
+    EXPECT_FALSE(shows(QStringLiteral("Please rate all items.")));
+
+    // The last column is off the panel's edge until the row is dragged; a drag chooses nothing.
+    const QRect panelRect = Clicker::node(sheet(), QAccessible::Button, QStringLiteral("Skip"))->rect();
+    EXPECT_GT(cell(0, 8)->rect().right(), panelRect.right());
+    const QPoint from = window->mapFromGlobal(cell(0, 6)->rect().center());
+    QTest::mousePress(window, Qt::LeftButton, {}, from);
+    for (int step = 1; step <= 10; ++step)
+        QTest::mouseMove(window, from - QPoint(step * 20, 0), 16);
+    QTest::mouseRelease(window, Qt::LeftButton, {}, from - QPoint(200, 0), 16);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return cell(0, 8)->rect().right() <= panelRect.right(); }, 3000));
+    EXPECT_TRUE(cell(0, 3)->state().checked) << "the drag tapped nothing";
+    ASSERT_TRUE(Clicker::click(window, cell(0, 8)));
+    ASSERT_TRUE(Clicker::click(window, cell(1, 2)));
+    // A screen reader's toggle rates as a tap does.
+    ASSERT_TRUE(cell(2, 2)->actionInterface());
+    cell(2, 2)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(cell(2, 2)->state().checked);
+    ASSERT_TRUE(clickButton(QStringLiteral("Next \u2192")));
+    ASSERT_EQ(answers.size(), 1u);
+    ASSERT_EQ(answers[0].value.size(), 3u);
+    EXPECT_EQ(answers[0].value[0].colId, "o7");
+    EXPECT_EQ(answers[0].value[2].rowId, "o2");
+    EXPECT_EQ(answers[0].value[2].colId, "o1");
+
+    // Right to left, the first column sits at the right end and is shown first.
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    ASSERT_TRUE(show(grid));
+    const QRect first = cell(0, 1)->rect();
+    EXPECT_GT(first.left(), cell(0, 2)->rect().left());
+    EXPECT_LE(first.right(), panelRect.right());
 }
 
 TEST_F(QuickSheet, SurveyTextIsShownAsPlainText)

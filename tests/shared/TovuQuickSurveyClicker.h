@@ -11,6 +11,7 @@
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
@@ -24,6 +25,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+#include <QtQuickTest/quicktest.h>
 
 #include <functional>
 #include <string>
@@ -33,6 +35,7 @@ class TovuQuickSurveyClicker
 {
 public:
     using Expected = TovuAnsweredPages::Expected;
+    using Pick = TovuAnsweredPages::Pick;
 
     /// Accessible nodes below `root`, depth first, with `role` (and `name`, when given).
     /// An item a screen reader does not see itself is looked through.
@@ -76,7 +79,11 @@ public:
     /// swipe would.
     static void scrollIntoView(QAccessibleInterface *node)
     {
-        auto *item = node ? qobject_cast<QQuickItem *>(node->object()) : nullptr;
+        // A cell a row draws has no object of its own: its row is what scrolls.
+        QObject *object = node ? node->object() : nullptr;
+        if (node && !object && node->parent())
+            object = node->parent()->object();
+        auto *item = qobject_cast<QQuickItem *>(object);
         QQuickItem *view = item ? item->parentItem() : nullptr;
         while (view && !view->inherits("QQuickFlickable"))
             view = view->parentItem();
@@ -97,8 +104,9 @@ public:
     {
         if (!node || !window)
             return false;
-        // Let pending layout (positioners, anchors) settle first, as a frame would.
+        // Let pending layout (positioners, anchors) settle first: a respondent taps what a frame shows.
         QCoreApplication::processEvents();
+        QQuickTest::qWaitForPolish(window);
         scrollIntoView(node);
         const QPoint centre = window->mapFromGlobal(node->rect().center());
         QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, centre);
@@ -130,6 +138,8 @@ public:
         if (!page || !QTest::qWaitFor([page] { return page->isVisible() && page->height() > 0; }, 2000))
             return false;
         QObject *model = page->property("model").value<QObject *>();
+        const QPointer<QObject> guard(model);
+        const QPointer<QQuickItem> pageGuard(page);
         if (auto *intro = qobject_cast<TovuIntroViewModel *>(model))
             return clickButton(window, page, intro->buttonTitle());
         if (qobject_cast<TovuThankYouViewModel *>(model))
@@ -148,7 +158,12 @@ public:
             this->multiNps(window, page, *rows);
         else if (auto *rating = qobject_cast<TovuRatingQuestionViewModel *>(model))
             this->rating(window, page, *rating);
-        auto *question = qobject_cast<TovuQuestionViewModel *>(model);
+        else if (auto *grid = qobject_cast<TovuMultiRatingQuestionViewModel *>(model))
+            this->multiRating(window, page, *grid);
+        // A choice that hands the answer on by itself shows no action (and may have taken the page away).
+        auto *question = qobject_cast<TovuQuestionViewModel *>(guard.data());
+        if (!guard || !pageGuard || (question && !question->isActionVisible()))
+            return true;
         return question && clickButton(window, page, question->actionTitle());
     }
 
@@ -185,65 +200,72 @@ private:
             collect(node->child(i), role, name, found);
     }
 
-    static std::string id(const QStringList &ids, int index) { return ids.at(index).toStdString(); }
+    void record(const TovuQuestionViewModel &model, int fieldCount = 0)
+    {
+        if (model.question())
+            expected.push_back(TovuAnsweredPages::expectedFor(*model.question(), fieldCount));
+    }
 
     void single(QQuickWindow *window, QQuickItem *page, const TovuSingleChoiceQuestionViewModel &model)
     {
-        const int choice = std::min(1, static_cast<int>(model.optionTexts().size()) - 1);
+        const int choice = std::min(Pick::singleChoice, static_cast<int>(model.optionTexts().size()) - 1);
         clickButton(window, page, model.optionTexts().at(choice));
-        expected.push_back({model.questionId().toStdString(), {id(model.optionIds(), choice)}, {}});
+        record(model);
     }
 
     void multiple(QQuickWindow *window, QQuickItem *page, const TovuMultipleChoiceQuestionViewModel &model)
     {
-        Expected e{model.questionId().toStdString(), {}, {}};
-        for (int index = 0; index < model.optionTexts().size(); index += 2) {
+        for (int index = 0; index < model.optionTexts().size(); index += Pick::multipleChoiceStep)
             clickButton(window, page, model.optionTexts().at(index));
-            e.rowIds.push_back(id(model.optionIds(), index));
-        }
-        expected.push_back(e);
+        record(model);
     }
 
     void dropdown(QQuickWindow *window, QQuickItem *page, const TovuDropdownQuestionViewModel &model)
     {
         clickButton(window, page, model.selectorTitle());
-        const int choice = std::min(2, static_cast<int>(model.optionTexts().size()) - 1);
+        const int choice = std::min(Pick::dropdown, static_cast<int>(model.optionTexts().size()) - 1);
         clickButton(window, page, model.optionTexts().at(choice));
-        expected.push_back({model.questionId().toStdString(), {id(model.optionIds(), choice)}, {}});
+        record(model);
     }
 
     void nps(QQuickWindow *window, QQuickItem *page, const TovuNPSQuestionViewModel &model)
     {
-        clickButton(window, page, QStringLiteral("Score 9"));
+        clickButton(window, page, QStringLiteral("Score %1").arg(Pick::npsScore));
         if (!model.followUpOptionTexts().isEmpty())
             clickButton(window, page, model.followUpOptionTexts().first());
         else if (model.isFollowUpShown())
-            type(window, page, model.followUpQuestion(), QStringLiteral("Quick delivery"));
-        expected.push_back({model.questionId().toStdString(), {}, {}});
+            type(window, page, model.followUpQuestion(), QString::fromUtf8(Pick::followUpText));
+        record(model);
     }
 
     void multiNps(QQuickWindow *window, QQuickItem *page, const TovuMultiNPSQuestionViewModel &model)
     {
-        for (QAccessibleInterface *eight : nodes(page, QAccessible::Button, QStringLiteral("Score 8")))
-            click(window, eight);
-        expected.push_back({model.questionId().toStdString(), {}, {}});
+        for (QAccessibleInterface *score :
+             nodes(page, QAccessible::Button, QStringLiteral("Score %1").arg(Pick::multiNpsScore)))
+            click(window, score);
+        record(model);
     }
 
     void rating(QQuickWindow *window, QQuickItem *page, const TovuRatingQuestionViewModel &model)
     {
-        clickButton(window, page, model.accessibleName(std::min(4, model.buttonCount())));
-        expected.push_back({model.questionId().toStdString(), {}, {}});
+        clickButton(window, page, model.accessibleName(std::min(Pick::rating, model.buttonCount())));
+        record(model);
+    }
+
+    void multiRating(QQuickWindow *window, QQuickItem *page, const TovuMultiRatingQuestionViewModel &model)
+    {
+        const int position = std::min(Pick::gridColumn, model.columnCount());
+        for (int row = 0; row < model.optionIds().size(); ++row)
+            clickButton(window, page, model.accessibleName(row, position));
+        record(model);
     }
 
     void textBox(QQuickWindow *window, QQuickItem *page, const TovuTextBoxQuestionViewModel &model)
     {
-        Expected e{model.questionId().toStdString(), {}, {}};
         for (int index = 0; index < model.fieldCount(); ++index) {
             const QString name = model.isMultiple() ? model.fieldLabels().at(index) : model.title();
-            const std::string text = "Answer " + std::to_string(index + 1) + ", thanks";
-            type(window, page, name, QString::fromStdString(text));
-            e.texts.push_back(text);
+            type(window, page, name, QString::fromStdString(Pick::fieldText(index)));
         }
-        expected.push_back(e);
+        record(model, model.fieldCount());
     }
 };

@@ -32,6 +32,7 @@ class TovuSurveyClicker
 {
 public:
     using Expected = TovuAnsweredPages::Expected;
+    using Pick = TovuAnsweredPages::Pick;
 
     static QWidget *currentPage(const TovuToasterView *sheet)
     {
@@ -88,11 +89,6 @@ public:
 private:
     static void click(QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); }
 
-    static std::string optionId(const TovuQuestion &q, int index)
-    {
-        return q.options->at(static_cast<std::size_t>(index)).id;
-    }
-
     static void clickIfVisible(TovuButton *button)
     {
         if (button && button->isVisible())
@@ -101,83 +97,75 @@ private:
 
     void single(TovuSingleChoiceQuestionView &view)
     {
-        const TovuQuestion &q = (*view.viewModel()->question());
-        const int choice = std::min(1, static_cast<int>(view.optionRows().size()) - 1);
+        const int choice = std::min(Pick::singleChoice, static_cast<int>(view.optionRows().size()) - 1);
         click(view.optionRows()[choice]);
-        expected.push_back({q.id, {optionId(q, choice)}, {}});
+        expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question()));
         clickIfVisible(view.nextButton());
     }
 
     void multiple(TovuMultipleChoiceQuestionView &view)
     {
-        const TovuQuestion &q = (*view.viewModel()->question());
-        Expected e{q.id, {}, {}};
-        for (int index = 0; index < view.optionButtons().size(); index += 2) {
+        for (int index = 0; index < view.optionButtons().size(); index += Pick::multipleChoiceStep)
             click(view.optionButtons()[index]);
-            e.rowIds.push_back(optionId(q, index));
-        }
-        expected.push_back(e);
+        expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question()));
         click(view.nextButton());
     }
 
     void dropdown(TovuDropdownQuestionView &view)
     {
-        const TovuQuestion &q = (*view.viewModel()->question());
         click(view.dropdownButton());
-        const int choice = std::min(2, static_cast<int>(view.optionButtons().size()) - 1);
+        const int choice = std::min(Pick::dropdown, static_cast<int>(view.optionButtons().size()) - 1);
         [[maybe_unused]] const bool open
             = QTest::qWaitFor([&] { return view.optionButtons()[choice]->isVisible(); }, 2000);
         click(view.optionButtons()[choice]);
-        expected.push_back({q.id, {optionId(q, choice)}, {}});
+        expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question()));
         click(view.nextButton());
     }
 
     void textBox(TovuTextBoxQuestionView &view)
     {
-        Expected e{(*view.viewModel()->question()).id, {}, {}};
-        for (int index = 0; index < view.textFields().size(); ++index) {
-            const std::string text = "Answer " + std::to_string(index + 1) + ", thanks";
+        const auto count = static_cast<int>(view.textFields().size());
+        for (int index = 0; index < count; ++index) {
             click(view.textFields()[index]);
-            QTest::keyClicks(view.textFields()[index], QString::fromStdString(text));
-            e.texts.push_back(text);
+            QTest::keyClicks(view.textFields()[index], QString::fromStdString(Pick::fieldText(index)));
         }
-        expected.push_back(e);
+        expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question(), count));
         click(view.submitButton());
     }
 
     void nps(TovuNPSQuestionView &view)
     {
-        click(view.npsButtons()[9]);
+        click(view.npsButtons()[Pick::npsScore]);
         if (!view.followUpOptionButtons().isEmpty() && view.followUpOptionButtons()[0]->isVisible())
             click(view.followUpOptionButtons()[0]);
         if (view.followUpText() && view.followUpText()->isVisible()) {
             click(view.followUpText());
-            QTest::keyClicks(view.followUpText(), QStringLiteral("Quick delivery"));
+            QTest::keyClicks(view.followUpText(), QString::fromUtf8(Pick::followUpText));
         }
-        expected.push_back({(*view.viewModel()->question()).id, {}, {}});
+        expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question()));
         click(view.actionButton());
     }
 
     void multiNps(TovuMultiNPSQuestionView &view)
     {
         for (const QList<TovuButton *> &row : view.scoreButtons())
-            click(row[8]);
-        expected.push_back({(*view.viewModel()->question()).id, {}, {}});
+            click(row[Pick::multiNpsScore]);
+        expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question()));
         click(view.actionButton());
     }
 
     void rating(TovuRatingQuestionView &view)
     {
-        click(view.ratingButtons()[std::min(3, static_cast<int>(view.ratingButtons().size()) - 1)]);
-        expected.push_back({(*view.viewModel()->question()).id, {}, {}});
+        click(view.ratingButtons()[std::min(Pick::rating, static_cast<int>(view.ratingButtons().size())) - 1]);
+        expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question()));
         clickIfVisible(view.actionButton());
     }
 
     void multiRating(TovuMultiRatingQuestionView &view)
     {
         for (const auto &[rowId, buttons] : view.rowButtons())
-            click(buttons[std::min(2, static_cast<int>(buttons.size()) - 1)]);
-        expected.push_back({(*view.viewModel()->question()).id, {}, {}});
+            click(buttons[std::min(Pick::gridColumn, static_cast<int>(buttons.size())) - 1]);
+        expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question()));
         click(view.actionButton());
     }
 };

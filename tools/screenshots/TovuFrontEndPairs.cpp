@@ -8,6 +8,7 @@
 #include <tovukit_io/ui/TovuToasterView.h>
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
@@ -110,6 +111,29 @@ std::vector<Pair> pairs()
          [](QObject *model) {
              qobject_cast<TovuRatingQuestionViewModel *>(model)->rate(3);
          }},
+        {"multi-rating-hearts",
+         {.id = "grid",
+          .type = TovuQuestionType::multiRating,
+          .title = "Rate each part of your order",
+          .options = Samples::choices("row-", {"Freshness", "Packing", "Delivery time"}),
+          .columns = Samples::choices("c-", {"Awful", "Poor", "Fair", "Good", "Great", "Superb", "Perfect"}),
+          .showColLabels = true},
+         [](QObject *model) {
+             auto *grid = qobject_cast<TovuMultiRatingQuestionViewModel *>(model);
+             grid->tap(QStringLiteral("row-0::c-3"));
+             grid->tap(QStringLiteral("row-2::c-5"));
+         },
+         TovuRatingVariant::heart},
+        {"multi-rating-emoji",
+         {.id = "faces",
+          .type = TovuQuestionType::multiRating,
+          .title = "How do you feel about",
+          .options = Samples::choices("row-", {"Our app", "Our prices"}),
+          .columns = Samples::choices("c-", {"1", "2", "3", "4", "5"})},
+         [](QObject *model) {
+             qobject_cast<TovuMultiRatingQuestionViewModel *>(model)->tap(QStringLiteral("row-1::c-4"));
+         },
+         TovuRatingVariant::emoji},
         {"thank-you",
          {.id = "thank_you_auto",
           .type = TovuQuestionType::thankYou,

@@ -54,10 +54,14 @@ void TovuEmoji::drawText(QPainter &painter, const QRectF &rect, int flags, const
         painter.drawText(rect, flags, text);
         return;
     }
-    const QSizeF size = TovuTextMetrics::boundingRect(font, *painter.device(), QRectF(), Qt::AlignLeft, text).size();
     const QString key = QStringLiteral("tovu-emoji/%1/%2/%3/%4").arg(text, font.key()).arg(color.rgba()).arg(dpr);
     QPixmap picture;
-    if (!QPixmapCache::find(key, &picture)) {
+    QSizeF size;
+    if (QPixmapCache::find(key, &picture)) {
+        // Measuring colour glyphs is nearly as dear as drawing them: the picture knows its size.
+        size = picture.deviceIndependentSize();
+    } else {
+        size = TovuTextMetrics::boundingRect(font, *painter.device(), QRectF(), Qt::AlignLeft, text).size();
         picture = QPixmap((size * dpr).toSize().expandedTo(QSize(1, 1)));
         picture.setDevicePixelRatio(dpr);
         picture.fill(Qt::transparent);
@@ -68,6 +72,7 @@ void TovuEmoji::drawText(QPainter &painter, const QRectF &rect, int flags, const
         p.drawText(QRectF(QPointF(), size), Qt::AlignCenter, text);
         p.end();
         QPixmapCache::insert(key, picture);
+        size = picture.deviceIndependentSize(); // drawn the same way on every paint
     }
     const auto alignment = Qt::Alignment(flags) & (Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask);
     const QRect target

@@ -30,14 +30,25 @@ QPainterPath TovuPainting::roundedRect(const QRectF &rect, qreal radius)
     return path;
 }
 
+namespace {
+
+// Logical coordinates to the pixels of the surface painted: the world transform (a
+// Qt Quick item painted at 2x is scaled there) and the device's own ratio (a 2x pixmap).
+QTransform toPixels(const QPainter &painter)
+{
+    return painter.combinedTransform() * painter.deviceTransform();
+}
+
+} // namespace
+
 qreal TovuPainting::pixelRatio(const QPainter &painter)
 {
-    if (!painter.device() || painter.worldTransform().type() > QTransform::TxTranslate)
+    if (!painter.device())
         return 0;
-    const QTransform &device = painter.deviceTransform();
-    if (device.type() > QTransform::TxScale || device.m11() != device.m22() || !(device.m11() > 0))
+    const QTransform pixels = toPixels(painter);
+    if (pixels.type() > QTransform::TxScale || pixels.m11() != pixels.m22() || !(pixels.m11() > 0))
         return 0;
-    return device.m11();
+    return pixels.m11();
 }
 
 namespace {
@@ -75,7 +86,7 @@ bool canUseCache(const QPainter &painter, const QRectF &rect)
     const qreal dpr = TovuPainting::pixelRatio(painter);
     if (dpr <= 0 || rect.width() > largestCachedSide || rect.height() > largestCachedSide)
         return false;
-    const QPointF origin = painter.worldTransform().map(rect.topLeft()) * dpr;
+    const QPointF origin = toPixels(painter).map(rect.topLeft());
     return isWhole(origin.x()) && isWhole(origin.y()) && isWhole(rect.width() * dpr) && isWhole(rect.height() * dpr);
 }
 
@@ -100,12 +111,10 @@ QRectF TovuPainting::pixelAligned(const QPainter &painter, const QPointF &centre
     const qreal dpr = pixelRatio(painter);
     if (dpr <= 0)
         return square;
-    const QPointF offset = painter.worldTransform().map(QPointF());
-    const auto snap = [dpr](qreal value) {
-        return std::round(value * dpr) / dpr;
-    };
-    const qreal snappedSide = std::max(snap(side), 1 / dpr);
-    const QPointF origin(snap(square.left() + offset.x()) - offset.x(), snap(square.top() + offset.y()) - offset.y());
+    const QTransform pixels = toPixels(painter);
+    const QPointF corner = pixels.map(square.topLeft());
+    const QPointF origin = pixels.inverted().map(QPointF(std::round(corner.x()), std::round(corner.y())));
+    const qreal snappedSide = std::max(std::round(side * dpr), 1.0) / dpr;
     return QRectF(origin, QSizeF(snappedSide, snappedSide));
 }
 

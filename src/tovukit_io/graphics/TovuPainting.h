@@ -29,9 +29,9 @@ public:
 
     static QPainterPath roundedRect(const QRectF &rect, qreal radius);
 
-    /// Device pixels per logical pixel where the painter only translates: the ratio of the
-    /// surface actually painted (an image a widget is rendered into, say), which need not be
-    /// the widget's own. 0 under any other transform.
+    /// Pixels of the surface actually painted per logical pixel (an image a widget is rendered
+    /// into, a Qt Quick item's texture at 2x), which need not be the widget's own: where the
+    /// painter only translates and scales evenly. 0 under any other transform.
     static qreal pixelRatio(const QPainter &painter);
 
     /// A square of about `side` centred on `centre`, moved and sized to whole device pixels

@@ -7,6 +7,7 @@
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPageMetrics.h>
@@ -114,6 +115,13 @@ struct TovuMultiNPSQuestionViewModelForeign {
     Q_GADGET
     QML_FOREIGN(TovuMultiNPSQuestionViewModel)
     QML_NAMED_ELEMENT(TovuMultiNPSQuestionViewModel)
+    QML_UNCREATABLE("made by the presenter")
+};
+
+struct TovuMultiRatingQuestionViewModelForeign {
+    Q_GADGET
+    QML_FOREIGN(TovuMultiRatingQuestionViewModel)
+    QML_NAMED_ELEMENT(TovuMultiRatingQuestionViewModel)
     QML_UNCREATABLE("made by the presenter")
 };
 

@@ -10,14 +10,13 @@
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultiNPSQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSingleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
-
-#include "TovuPlaceholderViewModel.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -226,8 +225,8 @@ QQuickItem *TovuQuickPresenter::createPage(QQmlEngine *engine, TovuPageRequest r
         return questionPage(engine, QLatin1StringView("TovuRatingPage"),
                             new TovuRatingQuestionViewModel(q, request.variant, request.maxRating, last), request);
     case TovuQuestionType::multiRating:
-        return questionPage(engine, QLatin1StringView("TovuPlaceholderPage"), new TovuPlaceholderViewModel(q, last),
-                            request);
+        return questionPage(engine, QLatin1StringView("TovuMultiRatingPage"),
+                            new TovuMultiRatingQuestionViewModel(q, request.variant, last), request);
     case TovuQuestionType::thankYou:
         break;
     }

@@ -1,5 +1,6 @@
 #include <tovukit_io/quick/TovuSymbolItem.h>
 
+#include <tovukit_io/graphics/TovuEmoji.h>
 #include <tovukit_io/graphics/TovuSymbol.h>
 
 #include <QPainter>
@@ -37,7 +38,29 @@ void TovuSymbolItem::setWeight(int weight)
     Q_EMIT weightChanged();
 }
 
+void TovuSymbolItem::setFace(const QString &face)
+{
+    if (m_face == face)
+        return;
+    m_face = face;
+    update();
+    Q_EMIT faceChanged();
+}
+
+void TovuSymbolItem::setFaceSize(qreal size)
+{
+    if (m_faceSize == size)
+        return;
+    m_faceSize = size;
+    update();
+    Q_EMIT faceChanged();
+}
+
 void TovuSymbolItem::paint(QPainter *painter)
 {
+    if (!m_face.isEmpty()) {
+        TovuEmoji::drawText(*painter, boundingRect(), Qt::AlignCenter, m_face, TovuEmoji::font(m_faceSize), m_color);
+        return;
+    }
     TovuSymbol::paint(*painter, boundingRect(), m_name, static_cast<QFont::Weight>(m_weight), m_color);
 }

@@ -10,16 +10,13 @@
 #include <tovukit_io/ui/kit/TovuLabels.h>
 #include <tovukit_io/ui/kit/TovuScrollStrip.h>
 #include <tovukit_io/ui/kit/TovuSymbolButton.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
-#include <QFontMetricsF>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <cmath>
 
 using Parts = TovuQuestionParts;
 using Model = TovuMultiRatingQuestionViewModel;
@@ -27,19 +24,12 @@ using Pieces = TovuRatingParts;
 
 namespace {
 
-constexpr int symbolHeight = 36;
-constexpr int faceHeight = 44;
-constexpr int stripHeight = 44;
-constexpr int labelledStripHeight = 60;
-constexpr int columnSpacing = 8;
-
-// Wide enough to tap, and for the column's label to be read without shrinking much.
-int naturalWidth(const QFontMetricsF &metrics, const QString &text)
-{
-    const qreal width = metrics.horizontalAdvance(text) + 4;
-    return std::clamp(static_cast<int>(std::ceil(width)), TovuMultiRatingQuestionView::naturalColumnWidth,
-                      2 * TovuMultiRatingQuestionView::naturalColumnWidth);
-}
+using Metrics = TovuPageMetrics;
+const int symbolHeight = qRound(Metrics::multiRatingSymbolHeight);
+const int faceHeight = qRound(Metrics::multiRatingFaceHeight);
+const int stripHeight = qRound(Metrics::multiRatingStripHeight);
+const int labelledStripHeight = qRound(Metrics::multiRatingLabelledStripHeight);
+const int columnSpacing = qRound(Metrics::multiRatingColumnSpacing);
 
 } // namespace
 
@@ -52,14 +42,14 @@ TovuMultiRatingQuestionView::TovuMultiRatingQuestionView(Model *model, QWidget *
     : TovuQuestionView(model, parent)
     , m_model(model)
 {
-    QVBoxLayout *outer = Parts::pageStack(this, 16);
+    QVBoxLayout *outer = Parts::pageStack(this, qRound(Metrics::multiRatingSpacing));
     m_titleLabel = Parts::titleLabel(m_model->title(), this);
     outer->addWidget(m_titleLabel);
     m_subtitleLabel = Parts::hintLabel(m_model->subtitle(), this);
     m_subtitleLabel->setVisible(!m_model->subtitle().isEmpty());
     outer->addWidget(m_subtitleLabel);
 
-    m_rowsStack = Parts::stack(20);
+    m_rowsStack = Parts::stack(qRound(Metrics::multiRatingRowsSpacing));
     const QStringList rowIds = m_model->optionIds();
     const QStringList rowTexts = m_model->optionTexts();
     for (int row = 0; row < rowIds.size(); ++row)
@@ -80,13 +70,14 @@ TovuMultiRatingQuestionView::~TovuMultiRatingQuestionView() = default;
 
 void TovuMultiRatingQuestionView::addRow(int row, const QString &rowId, const QString &text)
 {
-    QVBoxLayout *block = Parts::stack(8);
-    QLabel *label = TovuLabels::plain(text, Parts::font(14, QFont::Normal), QColor(), this);
+    QVBoxLayout *block = Parts::stack(qRound(Metrics::multiRatingRowSpacing));
+    QLabel *label
+        = TovuLabels::plain(text, Parts::font(Metrics::multiRatingRowLabelFontSize, QFont::Normal), QColor(), this);
     m_rowLabels.append(label);
     block->addWidget(label);
     block->addWidget(buttonStrip(row, rowId.toStdString()));
     auto *separator = new TovuHairline(this);
-    separator->setThickness(1);
+    separator->setThickness(qRound(Metrics::multiRatingSeparatorHeight));
     block->addWidget(separator);
     m_rowsStack->addLayout(block);
 }
@@ -130,11 +121,8 @@ int TovuMultiRatingQuestionView::columnWidth(int position, const TovuCaptionRow 
 {
     if (!captions)
         return naturalColumnWidth;
-    if (m_columnWidths.isEmpty()) {
-        const QFontMetricsF metrics(captions->captionFont());
-        for (const QString &text : m_model->columnTexts())
-            m_columnWidths.append(naturalWidth(metrics, text));
-    }
+    if (m_columnWidths.isEmpty())
+        m_columnWidths = m_model->naturalColumnWidths(captions->captionFont());
     return m_columnWidths.value(position - 1, naturalColumnWidth);
 }
 

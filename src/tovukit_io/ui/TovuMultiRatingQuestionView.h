@@ -64,7 +64,7 @@ public:
 
     /// From six columns on, a column is this wide, or as wide as its label needs (up to
     /// twice as wide), and the strip scrolls.
-    static constexpr int naturalColumnWidth = 48;
+    static constexpr int naturalColumnWidth = TovuMultiRatingQuestionViewModel::naturalColumnWidth;
 
 protected:
     void restyle() override;

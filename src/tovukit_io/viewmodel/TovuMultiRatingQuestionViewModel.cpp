@@ -2,7 +2,10 @@
 
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 
+#include <QFontMetricsF>
+
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 namespace {
@@ -114,6 +117,21 @@ QString TovuMultiRatingQuestionViewModel::accessibleName(int row, int position) 
 QColor TovuMultiRatingQuestionViewModel::activeColor() const
 {
     return TovuRatingQuestionViewModel::activeColorFor(question());
+}
+
+QList<int> TovuMultiRatingQuestionViewModel::naturalColumnWidths(const QFont &captionFont) const
+{
+    QList<int> widths(columnCount(), naturalColumnWidth);
+    if (!showsColumnLabels())
+        return widths;
+    // Wide enough to tap, and for the column's label to be read without shrinking much.
+    const QFontMetricsF metrics(captionFont);
+    const QStringList texts = columnTexts();
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const auto needed = static_cast<int>(std::ceil(metrics.horizontalAdvance(texts[i]) + 4));
+        widths[i] = std::clamp(needed, naturalColumnWidth, 2 * naturalColumnWidth);
+    }
+    return widths;
 }
 
 QString TovuMultiRatingQuestionViewModel::identifier(const std::string &rowId, const std::string &columnId)

@@ -4,6 +4,8 @@
 #include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
 
 #include <QColor>
+#include <QFont>
+#include <QList>
 #include <QVariantMap>
 
 #include <map>
@@ -66,6 +68,9 @@ public:
     /// "Speed, 3 of 5 stars", with the column's text when labels show.
     Q_INVOKABLE QString accessibleName(int row, int position) const;
     Q_INVOKABLE QColor activeColor() const;
+    /// Each column's width where the strip scrolls: naturalColumnWidth, or as wide as its
+    /// label needs in `captionFont` when labels show (up to twice that).
+    Q_INVOKABLE QList<int> naturalColumnWidths(const QFont &captionFont) const;
 
     /// The name of the button for `rowId` and `columnId`: "rowId::columnId".
     static QString identifier(const std::string &rowId, const std::string &columnId);
@@ -74,6 +79,7 @@ public:
 
     /// Sizes the front ends draw with.
     static constexpr int scrollingColumnCount = 6;
+    static constexpr int naturalColumnWidth = 48;
     static constexpr qreal symbolPointSize = 28;
     static constexpr qreal emojiSize = 30;
     static constexpr qreal chosenEmojiSize = 36;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSBands.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 
@@ -115,6 +116,19 @@ class TovuPageMetrics : public QObject
     Q_PROPERTY(qreal ratingFadedOpacity MEMBER ratingFadedOpacity CONSTANT)
     Q_PROPERTY(qreal ratingTapScale MEMBER ratingTapScale CONSTANT)
     Q_PROPERTY(qreal ratingTapSeconds MEMBER ratingTapSeconds CONSTANT)
+    Q_PROPERTY(qreal multiRatingSpacing MEMBER multiRatingSpacing CONSTANT)
+    Q_PROPERTY(qreal multiRatingRowsSpacing MEMBER multiRatingRowsSpacing CONSTANT)
+    Q_PROPERTY(qreal multiRatingRowSpacing MEMBER multiRatingRowSpacing CONSTANT)
+    Q_PROPERTY(qreal multiRatingRowLabelFontSize MEMBER multiRatingRowLabelFontSize CONSTANT)
+    Q_PROPERTY(qreal multiRatingSymbolHeight MEMBER multiRatingSymbolHeight CONSTANT)
+    Q_PROPERTY(qreal multiRatingFaceHeight MEMBER multiRatingFaceHeight CONSTANT)
+    Q_PROPERTY(qreal multiRatingStripHeight MEMBER multiRatingStripHeight CONSTANT)
+    Q_PROPERTY(qreal multiRatingLabelledStripHeight MEMBER multiRatingLabelledStripHeight CONSTANT)
+    Q_PROPERTY(qreal multiRatingColumnSpacing MEMBER multiRatingColumnSpacing CONSTANT)
+    Q_PROPERTY(qreal multiRatingSeparatorHeight MEMBER multiRatingSeparatorHeight CONSTANT)
+    Q_PROPERTY(qreal multiRatingSymbolPointSize MEMBER multiRatingSymbolPointSize CONSTANT)
+    Q_PROPERTY(qreal multiRatingEmojiSize MEMBER multiRatingEmojiSize CONSTANT)
+    Q_PROPERTY(qreal multiRatingChosenEmojiSize MEMBER multiRatingChosenEmojiSize CONSTANT)
     Q_PROPERTY(qreal multiNpsSpacing MEMBER multiNpsSpacing CONSTANT)
     Q_PROPERTY(qreal multiNpsRowsSpacing MEMBER multiNpsRowsSpacing CONSTANT)
     Q_PROPERTY(qreal multiNpsRowSpacing MEMBER multiNpsRowSpacing CONSTANT)
@@ -334,4 +348,21 @@ public:
     static constexpr qreal ratingFadedOpacity = TovuRatingQuestionViewModel::fadedOpacity;
     static constexpr qreal ratingTapScale = TovuRatingQuestionViewModel::tapScale;
     static constexpr qreal ratingTapSeconds = TovuRatingQuestionViewModel::tapSeconds;
+
+    // The multi-rating page: a stack of rows, each its text, a strip of buttons (sharing the width below six
+    // columns, else at their natural widths and scrolling sideways) with the column labels under them, and a
+    // hairline. The strip is taller where labels show; the buttons sit centred above them.
+    static constexpr qreal multiRatingSpacing = 16;
+    static constexpr qreal multiRatingRowsSpacing = 20;
+    static constexpr qreal multiRatingRowSpacing = 8;
+    static constexpr qreal multiRatingRowLabelFontSize = 14;
+    static constexpr qreal multiRatingSymbolHeight = 36;
+    static constexpr qreal multiRatingFaceHeight = 44;
+    static constexpr qreal multiRatingStripHeight = 44;
+    static constexpr qreal multiRatingLabelledStripHeight = 60;
+    static constexpr qreal multiRatingColumnSpacing = 8;
+    static constexpr qreal multiRatingSeparatorHeight = 1;
+    static constexpr qreal multiRatingSymbolPointSize = TovuMultiRatingQuestionViewModel::symbolPointSize;
+    static constexpr qreal multiRatingEmojiSize = TovuMultiRatingQuestionViewModel::emojiSize;
+    static constexpr qreal multiRatingChosenEmojiSize = TovuMultiRatingQuestionViewModel::chosenEmojiSize;
 };

@@ -3,6 +3,7 @@
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QString>
@@ -99,6 +100,7 @@ TovuThemeEngine::TovuThemeEngine() = default;
 void TovuThemeEngine::setTheme(std::optional<TovuTheme> theme)
 {
     m_apiTheme = std::move(theme);
+    m_fonts.clear();
 }
 
 const std::optional<TovuTheme> &TovuThemeEngine::apiTheme() const
@@ -109,6 +111,7 @@ const std::optional<TovuTheme> &TovuThemeEngine::apiTheme() const
 void TovuThemeEngine::configureAppTheme(TovuAppTheme theme)
 {
     m_appTheme = std::move(theme);
+    m_fonts.clear();
 }
 
 void TovuThemeEngine::configureAppTheme(QColor primaryColor)
@@ -169,6 +172,20 @@ QColor TovuThemeEngine::textColor() const
 }
 
 QFont TovuThemeEngine::font(qreal size, QFont::Weight weight) const
+{
+    // Each font is made once and measured once, and kept: a kept font keeps its font
+    // engine loaded, which Qt would otherwise drop and load again from fontconfig for
+    // every new page (about a millisecond each).
+    const auto key = std::pair{size, static_cast<int>(weight)};
+    if (const auto found = m_fonts.find(key); found != m_fonts.end())
+        return found->second;
+    QFont font = makeFont(size, weight);
+    QFontMetricsF(font).height();
+    m_fonts.emplace(key, font);
+    return font;
+}
+
+QFont TovuThemeEngine::makeFont(qreal size, QFont::Weight weight) const
 {
     qreal base = unscaledFontSizeBase;
     if (m_apiTheme && m_apiTheme->fontSizeBase)

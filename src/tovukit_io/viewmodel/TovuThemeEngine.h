@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QFont>
 
+#include <map>
 #include <optional>
 #include <string_view>
 
@@ -78,6 +79,10 @@ public:
     static std::optional<QColor> colorFromHex(std::string_view text);
 
 private:
+    QFont makeFont(qreal size, QFont::Weight weight) const;
+
     std::optional<TovuTheme> m_apiTheme;
     std::optional<TovuAppTheme> m_appTheme;
+    // Made for the current themes: size and weight to font.
+    mutable std::map<std::pair<qreal, int>, QFont> m_fonts;
 };

@@ -41,18 +41,19 @@ TovuQuestionPage {
                 }
 
                 TovuScoreRow {
+                    width: parent ? parent.width : 0
+                    height: TovuPageMetrics.multiNpsScoreHeight
                     objectName: scaleRow.modelData
-                    selection: page.model.scores
-                    styleOf: function (score) { return page.model.scoreStyle(scaleRow.modelData, score) }
-                    buttonHeight: TovuPageMetrics.multiNpsScoreHeight
-                    buttonRadius: TovuPageMetrics.multiNpsScoreCornerRadius
+                    model: page.model
+                    rowId: scaleRow.modelData
+                    spacing: TovuPageMetrics.scoreSpacing
+                    cellHeight: TovuPageMetrics.multiNpsScoreHeight
+                    cornerRadius: TovuPageMetrics.multiNpsScoreCornerRadius
                     fontSize: TovuPageMetrics.multiNpsScoreFontSize
+                    titleColor: TovuStyle.label
                     description: scaleRow.label
-                    onTapped: function (score, button) {
-                        page.model.selectScore(scaleRow.modelData, score)
-                        if (page.model.scoreOf(scaleRow.modelData) === score)
-                            button.bounce()
-                    }
+                    mirrored: LayoutMirroring.enabled
+                    Accessible.role: Accessible.Row
                 }
 
                 TovuEndLabels {

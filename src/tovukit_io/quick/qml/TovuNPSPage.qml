@@ -13,13 +13,16 @@ TovuQuestionPage {
     TovuPageHint { text: page.model.subtitle }
 
     TovuScoreRow {
-        selection: page.model.selectedScore
-        styleOf: function (score) { return page.model.scoreStyle(score) }
-        onTapped: function (score, button) {
-            page.model.selectScore(score)
-            if (page.model.selectedScore === score)
-                button.bounce()
-        }
+        width: parent ? parent.width : 0
+        height: TovuPageMetrics.scoreHeight
+        model: page.model
+        spacing: TovuPageMetrics.scoreSpacing
+        cellHeight: TovuPageMetrics.scoreHeight
+        cornerRadius: TovuPageMetrics.scoreCornerRadius
+        fontSize: TovuPageMetrics.scoreFontSize
+        titleColor: TovuStyle.label
+        mirrored: LayoutMirroring.enabled
+        Accessible.role: Accessible.Row
     }
 
     TovuEndLabels {

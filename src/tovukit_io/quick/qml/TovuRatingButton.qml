@@ -47,27 +47,28 @@ Rectangle {
 
     TovuSymbolIcon {
         anchors.centerIn: parent
-        visible: button.variant !== "EMOJI" && button.variant !== "NUMERIC"
-        width: TovuPageMetrics.ratingSymbolPointSize
-        height: width
-        name: { button.model.rating; return button.model.symbolName(button.rating) }
+        visible: button.variant !== "NUMERIC"
+        readonly property bool isFace: button.variant === "EMOJI"
+        width: isFace ? parent.width : TovuPageMetrics.ratingSymbolPointSize
+        height: isFace ? parent.height : width
+        name: { button.model.rating; return isFace ? "" : button.model.symbolName(button.rating) }
+        face: isFace ? button.model.buttonTitle(button.rating) : ""
+        faceSize: button.filled ? TovuPageMetrics.ratingChosenEmojiSize : TovuPageMetrics.ratingEmojiSize
+        opacity: !isFace || button.filled ? 1 : TovuPageMetrics.ratingFadedOpacity
         weight: Font.Medium
         // Outlines follow system gray 3 through light and dark.
-        color: button.filled ? button.model.activeColor() : TovuStyle.gray3
+        color: isFace ? "black" : button.filled ? button.model.activeColor() : TovuStyle.gray3
     }
 
     Text {
         anchors.fill: parent
-        visible: button.variant === "EMOJI" || button.variant === "NUMERIC"
+        visible: button.variant === "NUMERIC"
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         textFormat: Text.PlainText
-        text: button.model.buttonTitle(button.rating)
-        opacity: button.variant !== "EMOJI" || button.filled ? 1 : TovuPageMetrics.ratingFadedOpacity
-        color: button.variant !== "NUMERIC" ? TovuStyle.label : button.filled ? "white" : TovuStyle.label
-        font: button.variant === "EMOJI"
-              ? TovuStyle.emojiFont(button.filled ? TovuPageMetrics.ratingChosenEmojiSize : TovuPageMetrics.ratingEmojiSize)
-              : TovuStyle.font(TovuPageMetrics.tileFontSize, Font.Bold)
+        text: visible ? button.model.buttonTitle(button.rating) : ""
+        color: button.filled ? "white" : TovuStyle.label
+        font: TovuStyle.font(TovuPageMetrics.tileFontSize, Font.Bold)
         Accessible.ignored: true
     }
 
