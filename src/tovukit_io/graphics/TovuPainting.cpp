@@ -32,11 +32,11 @@ QPainterPath TovuPainting::roundedRect(const QRectF &rect, qreal radius)
 
 namespace {
 
-// Logical coordinates to the pixels of the surface painted: the world transform (a
-// Qt Quick item painted at 2x is scaled there) and the device's own ratio (a 2x pixmap).
+// Logical coordinates to the pixels of the surface painted: the world transform and the
+// device's own ratio (a 2x pixmap or backing store), which the combined one includes.
 QTransform toPixels(const QPainter &painter)
 {
-    return painter.combinedTransform() * painter.deviceTransform();
+    return painter.combinedTransform();
 }
 
 } // namespace
