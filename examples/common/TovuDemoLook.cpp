@@ -1,6 +1,7 @@
 #include "TovuDemoLook.h"
 
 #include <tovukit_io/core/TovuNativeSurveyManager.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -80,18 +81,36 @@ void TovuDemoLook::apply(TovuNativeSurveyManager &manager, bool dark, TovuDemoOp
 {
     // QGuiApplication's palette reaches widgets too: QApplication passes the change on.
     QGuiApplication::setPalette(palette(dark, light));
+    // A theme is configured whole: the progress choice goes into each.
+    const bool progress = showsProgress();
     switch (theme) {
     case TovuDemoOptions::Theme::survey:
-        manager.configureTheme(TovuAppTheme{});
+        manager.configureTheme(TovuAppTheme{.showsProgress = progress});
         break;
-    case TovuDemoOptions::Theme::host:
-        manager.configureTheme(hostTheme(dark));
+    case TovuDemoOptions::Theme::host: {
+        TovuAppTheme host = hostTheme(dark);
+        host.showsProgress = progress;
+        manager.configureTheme(host);
         break;
+    }
     case TovuDemoOptions::Theme::primaryColor:
-        manager.configureTheme(TovuAppTheme{});
+        manager.configureTheme(TovuAppTheme{.showsProgress = progress});
         manager.configureTheme(primaryColor);
         break;
     }
+}
+
+void TovuDemoLook::setShowsProgress(TovuNativeSurveyManager &manager, bool shows)
+{
+    TovuAppTheme theme = TovuThemeEngine::shared().appTheme().value_or(TovuAppTheme{});
+    theme.showsProgress = shows;
+    manager.configureTheme(theme);
+}
+
+bool TovuDemoLook::showsProgress()
+{
+    const auto &theme = TovuThemeEngine::shared().appTheme();
+    return theme && theme->showsProgress;
 }
 
 bool TovuDemoLook::isDark()

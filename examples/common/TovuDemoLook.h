@@ -33,6 +33,10 @@ public:
                       const QColor &primaryColor, const QPalette &light);
     /// Whether the application palette is dark right now.
     static bool isDark();
+    /// Turns the sheet's progress indicator on or off, keeping the rest of the theme;
+    /// apply() keeps the choice too.
+    static void setShowsProgress(TovuNativeSurveyManager &manager, bool shows);
+    static bool showsProgress();
 
     TovuDemoLook() = delete;
 };

@@ -65,6 +65,8 @@ std::expected<TovuDemoOptions, QString> TovuDemoOptions::parse(const QStringList
             result = flag(options.offlineFirst);
         } else if (name == u"--dark") {
             result = flag(options.dark);
+        } else if (name == u"--progress") {
+            result = flag(options.progress);
         } else if (name == u"--verbose") {
             result = flag(options.verbose);
         } else if (name == u"--palette-png") {
@@ -108,7 +110,7 @@ QString TovuDemoOptions::usage(const QString &program)
 {
     const QString indent(program.size() + 8, u' ');
     return QStringLiteral("usage: %1 [--autoplay] [--survey ID] [--screenshots DIR] [--palette-png] [--offline-first]\n"
-                          "%2[--dark] [--theme host|survey|#RRGGBB] [--port N] [--verbose]\n")
+                          "%2[--dark] [--theme host|survey|#RRGGBB] [--progress] [--port N] [--verbose]\n")
                .arg(program, indent)
         + QStringLiteral("A host app that shows TovuKit's native surveys, against tovu-devserver started in-process.\n"
                          "  --autoplay         answer every page by itself, save a screenshot of each, print the\n"
@@ -121,6 +123,7 @@ QString TovuDemoOptions::usage(const QString &program)
                          "  --dark             dark appearance\n"
                          "  --theme T          host: the demo app's own theme; #RRGGBB: only the primary colour;\n"
                          "                     survey: the survey's theme and the platform look (default)\n"
+                         "  --progress         show which question of how many is on screen (\"3 of 7\")\n"
                          "  --port N           port of the local backend (default 0: a free one)\n"
                          "  --verbose          also print the library's console lines\n");
 }

@@ -36,6 +36,8 @@ public:
     bool dark = false;
     Theme theme = Theme::survey;
     QColor primaryColor; ///< for Theme::primaryColor
+    /// The sheet shows which question of how many is on screen (TovuAppTheme::showsProgress).
+    bool progress = false;
     /// A sample's file name without ".json", its survey id or its collector id;
     /// empty for the sample with every question type.
     QString survey;

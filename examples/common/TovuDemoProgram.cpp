@@ -3,6 +3,7 @@
 #include "TovuDemoActivity.h"
 #include "TovuDemoAutoplay.h"
 #include "TovuDemoBackend.h"
+#include "TovuDemoLook.h"
 #include "TovuDemoSession.h"
 #include "TovuDemoStage.h"
 
@@ -134,6 +135,7 @@ std::optional<int> TovuDemoProgram::started(const QStringList &leftArguments)
 int TovuDemoProgram::run(TovuDemoStage &stage, TovuDemoSession &session)
 {
     stage.activity().setEcho(m_options.verbose);
+    TovuDemoLook::setShowsProgress(session.manager(), m_options.progress);
     stage.setLook(m_options.dark, m_options.theme,
                   m_options.theme == TovuDemoOptions::Theme::primaryColor ? m_options.primaryColor : QColor());
     std::unique_ptr<TovuDemoAutoplay> player;

@@ -1,6 +1,7 @@
 #include "TovuDemoControlPanel.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -153,11 +154,19 @@ QWidget *TovuDemoControlPanel::lookGroup()
     m_theme->setItemData(1, tr("configureTheme(TovuAppTheme): the app's colours, font and corner radius"),
                          Qt::ToolTipRole);
     layout->addWidget(m_theme);
+    m_progress = new QCheckBox(tr("Progress"), group);
+    m_progress->setObjectName(QStringLiteral("progress"));
+    m_progress->setToolTip(tr("showsProgress: \"3 of 7\" and a thin bar at the top of the sheet"));
+    layout->addWidget(m_progress);
     layout->addWidget(hint(tr("A theme applies from the next page on."), group));
     layout->addStretch();
 
     connect(modeGroup, &QButtonGroup::buttonClicked, this, &TovuDemoControlPanel::emitLook);
     connect(m_theme, &QComboBox::currentIndexChanged, this, &TovuDemoControlPanel::emitLook);
+    connect(m_progress, &QCheckBox::toggled, this, [this](bool shows) {
+        if (!m_quiet)
+            Q_EMIT progressToggled(shows);
+    });
     return group;
 }
 
@@ -228,6 +237,13 @@ void TovuDemoControlPanel::setLook(bool dark, TovuDemoOptions::Theme theme, cons
     (dark ? m_dark : m_light)->setChecked(true);
     m_theme->setItemText(2, tr("Primary colour %1").arg(primaryColor.name().toUpper()));
     m_theme->setCurrentIndex(m_theme->findData(int(theme)));
+    m_quiet = false;
+}
+
+void TovuDemoControlPanel::setShowsProgress(bool shows)
+{
+    m_quiet = true;
+    m_progress->setChecked(shows);
     m_quiet = false;
 }
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 class QButtonGroup;
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -36,6 +37,8 @@ public:
     void setTarget(TovuDemoSession::Target target, const QString &id);
     /// Shows the look; reports nothing. `primaryColor` is the one offered as a theme.
     void setLook(bool dark, TovuDemoOptions::Theme theme, const QColor &primaryColor);
+    /// Shows whether the sheet shows progress; reports nothing.
+    void setShowsProgress(bool shows);
     void setOnline(bool online);
     void setQueuedCount(int count);
     /// Counts down from interceptSeconds until the survey shows or stopCountdown().
@@ -55,6 +58,7 @@ Q_SIGNALS:
     void interceptRequested();
     void lowestResponseRequested();
     void lookChanged(bool dark, TovuDemoOptions::Theme theme);
+    void progressToggled(bool shows);
     void onlineRequested(bool online);
     void flushRequested();
 
@@ -88,6 +92,7 @@ private:
     QRadioButton *m_light = nullptr;
     QRadioButton *m_dark = nullptr;
     QComboBox *m_theme = nullptr;
+    QCheckBox *m_progress = nullptr;
 
     QPushButton *m_online = nullptr;
     QLabel *m_onlineLabel = nullptr;

@@ -113,6 +113,11 @@ void TovuDemoWindow::connectControls()
     });
     connect(m_controls, &TovuDemoControlPanel::lookChanged, this,
             [this](bool dark, TovuDemoOptions::Theme theme) { setLook(dark, theme, m_primaryColor); });
+    connect(m_controls, &TovuDemoControlPanel::progressToggled, this, [this](bool shows) {
+        m_activityLog.note(shows ? tr("configureTheme(showsProgress: true)")
+                                 : tr("configureTheme(showsProgress: false)"));
+        TovuDemoLook::setShowsProgress(m_session.manager(), shows);
+    });
     connect(m_controls, &TovuDemoControlPanel::onlineRequested, &m_session, &TovuDemoSession::setOnline);
     connect(m_controls, &TovuDemoControlPanel::flushRequested, this, [this] {
         m_activityLog.note(tr("flushQueue()"));
@@ -163,6 +168,7 @@ void TovuDemoWindow::setLook(bool dark, TovuDemoOptions::Theme theme, const QCol
         m_primaryColor = primaryColor;
     TovuDemoLook::apply(m_session.manager(), dark, theme, m_primaryColor, QApplication::style()->standardPalette());
     m_controls->setLook(dark, theme, m_primaryColor);
+    m_controls->setShowsProgress(TovuDemoLook::showsProgress());
 }
 
 void TovuDemoWindow::fitToScreen()

@@ -204,6 +204,18 @@ void TovuQuickDemo::setLook(bool dark, TovuDemoOptions::Theme theme, const QColo
     Q_EMIT lookChanged();
 }
 
+bool TovuQuickDemo::showsProgress() const
+{
+    return TovuDemoLook::showsProgress();
+}
+
+void TovuQuickDemo::setShowsProgress(bool shows)
+{
+    note(shows ? tr("configureTheme(showsProgress: true)") : tr("configureTheme(showsProgress: false)"));
+    TovuDemoLook::setShowsProgress(m_session.manager(), shows);
+    Q_EMIT lookChanged();
+}
+
 void TovuQuickDemo::setOnline(bool online)
 {
     m_switching = true;

@@ -47,6 +47,8 @@ class TovuQuickDemo : public QObject, public TovuDemoStage
     /// "survey", "host" or "primaryColor".
     Q_PROPERTY(QString theme READ themeName NOTIFY lookChanged)
     Q_PROPERTY(QColor primaryColor READ primaryColor NOTIFY lookChanged)
+    /// The sheet shows which question of how many is on screen.
+    Q_PROPERTY(bool showsProgress READ showsProgress WRITE setShowsProgress NOTIFY lookChanged)
     /// The host screen's colours, by name (TovuDemoLook::HostColors).
     Q_PROPERTY(QVariantMap colors READ colors NOTIFY lookChanged)
     /// What the host screen shows (TovuDemoStorefront).
@@ -106,6 +108,8 @@ public:
     Q_INVOKABLE void setLook(bool dark, const QString &theme);
     void setLook(bool dark, TovuDemoOptions::Theme theme, const QColor &primaryColor) override;
     Q_INVOKABLE void setOnline(bool online);
+    bool showsProgress() const;
+    void setShowsProgress(bool shows);
     /// A line of the demo's own in the log.
     Q_INVOKABLE void note(const QString &text);
     Q_INVOKABLE void refreshStoredResponses();

@@ -37,6 +37,9 @@ struct Pair {
     /// What the respondent did before the picture, through the page's model.
     std::function<void(QObject *model)> act;
     TovuRatingVariant variant = TovuRatingVariant::star;
+    /// The progress indicator's question of how many; none when 0.
+    int questionNumber = 0;
+    int questionCount = 0;
 };
 
 std::vector<Pair> pairs()
@@ -47,7 +50,7 @@ std::vector<Pair> pairs()
             qobject_cast<TovuSingleChoiceQuestionViewModel *>(model)->selectOption(index);
         };
     };
-    return {
+    std::vector<Pair> list{
         {"single-choice",
          {.id = "delivery",
           .type = TovuQuestionType::singleChoice,
@@ -141,6 +144,21 @@ std::vector<Pair> pairs()
           .subtitle = "Your feedback is greatly appreciated."},
          {}},
     };
+    // The first page again with the progress indicator a host may turn on.
+    Pair progress = list.front();
+    progress.name = "single-choice-progress";
+    progress.questionNumber = 2;
+    progress.questionCount = 5;
+    list.push_back(progress);
+    return list;
+}
+
+TovuPageRequest requestFor(const Pair &pair)
+{
+    return {.question = pair.question,
+            .variant = pair.variant,
+            .questionNumber = pair.questionNumber,
+            .questionCount = pair.questionCount};
 }
 
 TovuSurvey surveyOf(const TovuQuestion &question)
@@ -156,7 +174,7 @@ QImage widgetsShot(const Pair &pair)
     host.show();
     TovuSheetPresenter presenter;
     presenter.present(surveyOf(pair.question), &host);
-    presenter.showQuestion(TovuPageRequest{.question = pair.question, .variant = pair.variant});
+    presenter.showQuestion(requestFor(pair));
     QApplication::processEvents();
     QWidget *page = presenter.toasterView()->contentStackView()->itemAt(0)->widget();
     if (pair.act)
@@ -175,7 +193,7 @@ QImage quickShot(const Pair &pair)
         return {};
     TovuQuickPresenter presenter;
     presenter.present(surveyOf(pair.question), &window);
-    presenter.showQuestion(TovuPageRequest{.question = pair.question, .variant = pair.variant});
+    presenter.showQuestion(requestFor(pair));
     QQuickItem *page = presenter.quickSheet()->currentPage();
     if (pair.act && page)
         pair.act(page->property("model").value<QObject *>());

@@ -216,6 +216,13 @@ Column {
                     panel.demo.setLook(panel.demo.dark, ["survey", "host", "primaryColor"][index])
                 }
             }
+            DemoChoice {
+                objectName: "progress"
+                width: parent.width
+                options: [qsTr("Progress off"), qsTr("Progress on")]
+                currentIndex: panel.demo.showsProgress ? 1 : 0
+                onChosen: function (index) { panel.demo.showsProgress = index === 1 }
+            }
             Hint { text: qsTr("The theme: the survey's, the host app's, or only a primary colour. It applies from the next page on.") }
         }
 

@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <QUuid>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -25,6 +26,21 @@ constexpr std::string_view thankYouAutoId = "thank_you_auto";
 std::string freshResponseId()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper().toStdString();
+}
+
+// The progress shown on question `index`: its place among the survey's question pages
+// and their number. The path is the survey's order (a follow-up belongs to its question's
+// page), so the count holds from the first page to the last; the thank-you page is none.
+void setProgress(TovuPageRequest &request, const std::vector<TovuQuestion> &questions, int index)
+{
+    const auto isQuestion = [](const TovuQuestion &q) {
+        return q.type != TovuQuestionType::thankYou;
+    };
+    if (!isQuestion(request.question))
+        return;
+    request.questionNumber
+        = static_cast<int>(std::count_if(questions.begin(), questions.begin() + index + 1, isQuestion));
+    request.questionCount = static_cast<int>(std::ranges::count_if(questions, isQuestion));
 }
 
 } // namespace
@@ -368,6 +384,9 @@ TovuPageRequest TovuNativeSurveyManagerPrivate::pageRequest(int index)
 {
     const TovuQuestion &question = survey->questions[static_cast<std::size_t>(index)];
     TovuPageRequest request{question, isLastQuestion(), ratingVariantFrom(question.ratingStyle), 5, {}, {}};
+    const auto &appTheme = TovuThemeEngine::shared().appTheme();
+    if (appTheme && appTheme->showsProgress)
+        setProgress(request, survey->questions, index);
     if (question.type == TovuQuestionType::thankYou)
         return request;
     const QPointer<TovuNativeSurveyManager> manager(q);

@@ -133,14 +133,14 @@ public:
     // singleton of `import TovuKit`:
     //
     //   TovuNativeSurveyManager.configure({ apiKey: "key", collectorId: "c-123", zone: "eu" })
-    //   TovuNativeSurveyManager.configureTheme({ primaryColor: "#1E8E3E", cornerRadius: 24 })
+    //   TovuNativeSurveyManager.configureTheme({ primaryColor: "#1E8E3E", cornerRadius: 24, showsProgress: true })
     //   TovuNativeSurveyManager.startIntercept(3, window)
     //   TovuNativeSurveyManager.flushQueue(function (allSent) { … })
 
     /// `{apiKey, collectorId | surveyId, zone, environment}`: environment "production"
     /// (the default) or "uat"; a survey id wins over a collector id.
     Q_INVOKABLE void configure(const QVariantMap &options);
-    /// Any of `{primaryColor, backgroundColor, textColor, fontFamily, cornerRadius}`.
+    /// Any of `{primaryColor, backgroundColor, textColor, fontFamily, cornerRadius, showsProgress}`.
     Q_INVOKABLE void configureTheme(const QVariantMap &theme);
     /// `{name, email, phone, uniqueId, country, city, region}`; other entries are extra data.
     Q_INVOKABLE void setUser(const QVariantMap &user);

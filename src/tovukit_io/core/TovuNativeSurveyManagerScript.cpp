@@ -35,6 +35,7 @@ TovuAppTheme appTheme(const QVariantMap &map)
     const qreal radius = map.value(QStringLiteral("cornerRadius")).toReal(&isNumber);
     if (isNumber)
         theme.cornerRadius = radius;
+    theme.showsProgress = map.value(QStringLiteral("showsProgress")).toBool();
     return theme;
 }
 

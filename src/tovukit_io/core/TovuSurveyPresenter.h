@@ -17,6 +17,10 @@ struct TovuPageRequest {
     int maxRating = 5; ///< rating pages
     std::function<void(const TovuAnswer &)> onAnswer;
     std::function<void(const TovuAnswer &)> onAdditionalAnswer; ///< NPS follow-ups
+    /// Which question page of how many this is, for the progress indicator; both 0
+    /// when the host shows no progress (TovuAppTheme::showsProgress) and on the thank-you page.
+    int questionNumber = 0;
+    int questionCount = 0;
 };
 
 /// Puts a survey session on screen. The manager decides what to show and

@@ -1,5 +1,7 @@
 #include "TovuCellRowAccessible.h"
 
+#include "TovuQuickAccessibleParts.h"
+
 #include <tovukit_io/quick/TovuCellRowItem.h>
 
 #include <QAccessibleActionInterface>
@@ -10,14 +12,6 @@
 #include <vector>
 
 namespace {
-
-QRect onScreen(const QQuickItem *item, const QRectF &rect)
-{
-    if (!item->window())
-        return {};
-    const QRectF inScene = item->mapRectToScene(rect);
-    return QRect(item->window()->mapToGlobal(inScene.topLeft().toPoint()), inScene.size().toSize());
-}
 
 class CellInterface : public QAccessibleInterface, public QAccessibleActionInterface
 {
@@ -66,7 +60,7 @@ public:
     QRect rect() const override
     {
         const TovuCellRowItem *row = this->row();
-        return row ? onScreen(row, row->cellRect(m_index)) : QRect();
+        return row ? TovuQuickAccessibleParts::onScreen(row, row->cellRect(m_index)) : QRect();
     }
     QAccessible::Role role() const override
     {
@@ -138,16 +132,7 @@ public:
 
     QWindow *window() const override { return row() ? row()->window() : nullptr; }
 
-    QAccessibleInterface *parent() const override
-    {
-        // The nearest item a screen reader sees, as Qt Quick's own items report theirs.
-        for (QQuickItem *item = row() ? row()->parentItem() : nullptr; item; item = item->parentItem()) {
-            QAccessibleInterface *candidate = QAccessible::queryAccessibleInterface(item);
-            if (candidate && candidate->role() != QAccessible::Client)
-                return candidate;
-        }
-        return row() && row()->window() ? QAccessible::queryAccessibleInterface(row()->window()) : nullptr;
-    }
+    QAccessibleInterface *parent() const override { return TovuQuickAccessibleParts::parentOf(row()); }
 
     int childCount() const override { return row() ? row()->cellCount() : 0; }
 
@@ -181,7 +166,10 @@ public:
     }
 
     QString text(QAccessible::Text) const override { return {}; }
-    QRect rect() const override { return row() ? onScreen(row(), row()->boundingRect()) : QRect(); }
+    QRect rect() const override
+    {
+        return row() ? TovuQuickAccessibleParts::onScreen(row(), row()->boundingRect()) : QRect();
+    }
     QAccessible::Role role() const override { return QAccessible::Row; }
 
     QAccessible::State state() const override

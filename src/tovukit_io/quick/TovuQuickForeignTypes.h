@@ -11,6 +11,7 @@
 #include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuPageMetrics.h>
+#include <tovukit_io/viewmodel/TovuProgressViewModel.h>
 #include <tovukit_io/viewmodel/TovuQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
@@ -88,6 +89,13 @@ struct TovuTextBoxQuestionViewModelForeign {
     QML_FOREIGN(TovuTextBoxQuestionViewModel)
     QML_NAMED_ELEMENT(TovuTextBoxQuestionViewModel)
     QML_UNCREATABLE("made by the presenter")
+};
+
+struct TovuProgressViewModelForeign {
+    Q_GADGET
+    QML_FOREIGN(TovuProgressViewModel)
+    QML_NAMED_ELEMENT(TovuProgressViewModel)
+    QML_UNCREATABLE("made by the sheet")
 };
 
 struct TovuIntroViewModelForeign {

@@ -243,14 +243,18 @@ void TovuQuickPresenter::showPage(QQuickItem *page)
 
 void TovuQuickPresenter::showIntro(const TovuSurveyPage &page, std::function<void()> onStart)
 {
-    if (m_open.get() && m_engine)
-        showPage(createIntroPage(m_engine, page, std::move(onStart)));
+    if (!m_open.get() || !m_engine)
+        return;
+    m_open.get()->setProgress(0, 0);
+    showPage(createIntroPage(m_engine, page, std::move(onStart)));
 }
 
 void TovuQuickPresenter::showQuestion(TovuPageRequest request)
 {
-    if (m_open.get() && m_engine)
-        showPage(createPage(m_engine, std::move(request), m_urlOpener));
+    if (!m_open.get() || !m_engine)
+        return;
+    m_open.get()->setProgress(request.questionNumber, request.questionCount);
+    showPage(createPage(m_engine, std::move(request), m_urlOpener));
 }
 
 void TovuQuickPresenter::dismiss()

@@ -2,6 +2,7 @@
 
 #include <tovukit_io/viewmodel/TovuKeyboardLift.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuProgressViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 
 #include <QKeyEvent>
@@ -31,6 +32,7 @@ TovuQuickSheet::TovuQuickSheet(QQuickItem *parent)
     setFlag(ItemIsFocusScope);
     setDimmingAlpha(Metrics::defaultDimmingAlpha);
     m_keyboardLift = new TovuKeyboardLift([this](qreal offset) { setBottomOffset(offset); }, this);
+    m_progress = new TovuProgressViewModel(this);
 }
 
 TovuQuickSheet::~TovuQuickSheet()
@@ -129,6 +131,11 @@ void TovuQuickSheet::setQuestionView(QQuickItem *page)
         page->setParentItem(m_slot ? m_slot.data() : this);
     }
     Q_EMIT currentPageChanged();
+}
+
+void TovuQuickSheet::setProgress(int current, int total)
+{
+    m_progress->setProgress(current, total);
 }
 
 void TovuQuickSheet::keyboardWillShow(const QRectF &keyboardFrame, int durationMs)

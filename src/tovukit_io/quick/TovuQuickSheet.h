@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tovukit_io/viewmodel/TovuProgressViewModel.h>
+
 #include <QPointer>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
@@ -32,6 +34,8 @@ class TovuQuickSheet : public QQuickItem
     Q_PROPERTY(QQuickItem *currentPage READ currentPage NOTIFY currentPageChanged)
     /// Where pages go: set by the QML look.
     Q_PROPERTY(QQuickItem *contentSlot READ contentSlot WRITE setContentSlot NOTIFY contentSlotChanged)
+    /// Which question of how many is shown, for the progress indicator; hidden while its total is 0.
+    Q_PROPERTY(TovuProgressViewModel *progress READ progress CONSTANT)
 
 public:
     explicit TovuQuickSheet(QQuickItem *parent = nullptr);
@@ -45,6 +49,9 @@ public:
     QQuickItem *currentPage() const { return m_page; }
     QQuickItem *contentSlot() const { return m_slot; }
     void setContentSlot(QQuickItem *slot);
+    TovuProgressViewModel *progress() const { return m_progress; }
+    /// Shows question `current` of `total`; a `total` of 0 hides the indicator.
+    void setProgress(int current, int total);
 
     /// Covers `host` (and follows its size) and slides the panel in.
     void present(QQuickItem *host);
@@ -97,6 +104,7 @@ private:
     QPointer<QQuickItem> m_page;
     QPointer<QQuickItem> m_slot;
     TovuKeyboardLift *m_keyboardLift = nullptr;
+    TovuProgressViewModel *m_progress = nullptr;
     qreal m_dimmingAlpha = 0.5;
     qreal m_translation = 0;
     qreal m_bottomOffset = 0;

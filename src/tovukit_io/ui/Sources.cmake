@@ -1,11 +1,13 @@
 # Bottom sheet, pages and question views, and the presenter that shows them for the manager.
 list(APPEND ui_sources
   TovuIntroView.cpp
+  TovuProgressIndicator.cpp
   TovuSheetPresenter.cpp
   TovuThankYouView.cpp
   TovuToasterView.cpp)
 list(APPEND ui_headers
   TovuIntroView.h
+  TovuProgressIndicator.h
   TovuSheetPresenter.h
   TovuThankYouView.h
   TovuToasterView.h

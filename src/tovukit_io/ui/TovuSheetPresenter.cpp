@@ -180,13 +180,16 @@ void TovuSheetPresenter::showIntro(const TovuSurveyPage &page, std::function<voi
         return;
     auto *intro = new TovuIntroView(page);
     intro->onStart = std::move(onStart);
+    m_open.get()->setProgress(0, 0);
     m_open.get()->setQuestionView(intro);
 }
 
 void TovuSheetPresenter::showQuestion(TovuPageRequest request)
 {
-    if (m_open.get())
-        m_open.get()->setQuestionView(createPage(std::move(request), m_urlOpener));
+    if (!m_open.get())
+        return;
+    m_open.get()->setProgress(request.questionNumber, request.questionCount);
+    m_open.get()->setQuestionView(createPage(std::move(request), m_urlOpener));
 }
 
 void TovuSheetPresenter::dismiss()

@@ -1,10 +1,12 @@
 #include <tovukit_io/ui/TovuToasterView.h>
 
+#include <tovukit_io/ui/TovuProgressIndicator.h>
 #include <tovukit_io/ui/kit/TovuBox.h>
 #include <tovukit_io/ui/kit/TovuButton.h>
 #include <tovukit_io/viewmodel/TovuKeyboardLift.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
+#include <tovukit_io/viewmodel/TovuProgressViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
@@ -272,6 +274,19 @@ void TovuToasterView::setQuestionView(QWidget *view)
     layoutPanel();
 }
 
+void TovuToasterView::setProgress(int current, int total)
+{
+    // Nothing is added to the panel (nor to what a screen reader finds) until progress shows.
+    if (!m_progress && total <= 0)
+        return;
+    if (!m_progress) {
+        m_progress = new TovuProgressViewModel(this);
+        m_progressIndicator = new TovuProgressIndicator(m_progress, m_containerView);
+    }
+    m_progress->setProgress(current, total);
+    layoutPanel();
+}
+
 void TovuToasterView::keyboardWillShow(const QRectF &keyboardFrame, int durationMs)
 {
     m_keyboardLift->keyboardWillShow(keyboardFrame, durationMs);
@@ -321,6 +336,11 @@ void TovuToasterView::layoutPanel()
     const int skipTrailing = qRound(Metrics::skipTrailing);
     const int skipX = isRightToLeft() ? skipTrailing : panelWidth - skipTrailing - m_skipButton->width();
     m_skipButton->move(skipX, qRound(Metrics::skipTop));
+    if (m_progressIndicator) {
+        const int leading = qRound(Metrics::progressLeading);
+        const int progressX = isRightToLeft() ? panelWidth - leading - m_progressIndicator->width() : leading;
+        m_progressIndicator->move(progressX, qRound(Metrics::progressTop));
+    }
     m_scrollArea->setGeometry(contentSide, contentTop, std::max(0, panelWidth - 2 * contentSide),
                               std::max(0, panel - contentTop - contentBottom));
     m_skipButton->raise();

@@ -14,6 +14,8 @@ class QVBoxLayout;
 class TovuBox;
 class TovuButton;
 class TovuKeyboardLift;
+class TovuProgressIndicator;
+class TovuProgressViewModel;
 
 /// The bottom sheet a native survey is shown in: a dimming layer over the
 /// host widget, and a rounded panel with a grab handle, "Skip" and one slot
@@ -46,6 +48,9 @@ public:
     void dismiss();
     /// The only page in the slot from now on; the previous one is deleted.
     void setQuestionView(QWidget *view);
+    /// Shows question `current` of `total` at the panel's top leading corner; a `total`
+    /// of 0 hides it. The indicator is made on the first call that shows one.
+    void setProgress(int current, int total);
 
     /// The keyboard is about to cover `keyboardFrame` (in screen or sheet
     /// coordinates; only its height counts), over `durationMs`.
@@ -57,6 +62,8 @@ public:
     TovuButton *skipButton() const { return m_skipButton; }
     QVBoxLayout *contentStackView() const { return m_contentStack; }
     QScrollArea *contentScrollArea() const { return m_scrollArea; }
+    /// Null until setProgress() first showed progress.
+    TovuProgressIndicator *progressIndicator() const { return m_progressIndicator; }
     const std::optional<TovuSurvey> &survey() const { return m_survey; }
     /// How far the panel's bottom sits above the sheet's bottom edge (the keyboard's height, or 0).
     qreal containerBottomOffset() const { return m_bottomOffset; }
@@ -102,6 +109,8 @@ private:
     QWidget *m_content = nullptr;
     QVBoxLayout *m_contentStack = nullptr;
     TovuKeyboardLift *m_keyboardLift = nullptr;
+    TovuProgressViewModel *m_progress = nullptr;
+    TovuProgressIndicator *m_progressIndicator = nullptr;
     qreal m_dimmingAlpha = TovuSheetMetrics::defaultDimmingAlpha;
     qreal m_translation = 0;
     qreal m_bottomOffset = 0;

@@ -3,6 +3,7 @@ list(APPEND viewmodel_sources
   TovuKeyboardLift.cpp
   TovuMotion.cpp
   TovuPlatformColors.cpp
+  TovuProgressViewModel.cpp
   TovuThemeEngine.cpp)
 list(APPEND viewmodel_headers
   TovuAppTheme.h
@@ -10,6 +11,7 @@ list(APPEND viewmodel_headers
   TovuMotion.h
   TovuPageMetrics.h
   TovuPlatformColors.h
+  TovuProgressViewModel.h
   TovuSheetMetrics.h
   TovuThemeEngine.h)
 

@@ -13,6 +13,7 @@
 /// TovuAppTheme theme;
 /// theme.primaryColor = QColor(0x6A, 0x1B, 0x9A);
 /// theme.cornerRadius = 20;
+/// theme.showsProgress = true;
 /// TovuThemeEngine::shared().configureAppTheme(theme);
 /// \endcode
 struct TovuAppTheme {
@@ -21,6 +22,10 @@ struct TovuAppTheme {
     std::optional<QColor> textColor; ///< titles, options and labels
     std::optional<QString> fontFamily; ///< family for all text
     std::optional<qreal> cornerRadius; ///< of the sheet, in points
+    /// Off by default. On, the sheet shows on each question page which question of how
+    /// many it is ("3 of 7", a thin bar in the primary colour); the intro and thank-you
+    /// pages show none. Screen readers hear "Question 3 of 7".
+    bool showsProgress = false;
 
     friend bool operator==(const TovuAppTheme &, const TovuAppTheme &) = default;
 };

@@ -23,6 +23,14 @@ class TovuSheetMetrics : public QObject
     Q_PROPERTY(qreal skipFontSize MEMBER skipFontSize CONSTANT)
     Q_PROPERTY(qreal skipInsetHorizontal MEMBER skipInsetHorizontal CONSTANT)
     Q_PROPERTY(qreal skipInsetVertical MEMBER skipInsetVertical CONSTANT)
+    Q_PROPERTY(qreal progressTop MEMBER progressTop CONSTANT)
+    Q_PROPERTY(qreal progressLeading MEMBER progressLeading CONSTANT)
+    Q_PROPERTY(qreal progressWidth MEMBER progressWidth CONSTANT)
+    Q_PROPERTY(qreal progressHeight MEMBER progressHeight CONSTANT)
+    Q_PROPERTY(qreal progressBarWidth MEMBER progressBarWidth CONSTANT)
+    Q_PROPERTY(qreal progressBarHeight MEMBER progressBarHeight CONSTANT)
+    Q_PROPERTY(qreal progressTextGap MEMBER progressTextGap CONSTANT)
+    Q_PROPERTY(qreal progressFontSize MEMBER progressFontSize CONSTANT)
     Q_PROPERTY(qreal contentTopBelowHandle MEMBER contentTopBelowHandle CONSTANT)
     Q_PROPERTY(qreal contentTop MEMBER contentTop CONSTANT)
     Q_PROPERTY(qreal contentSide MEMBER contentSide CONSTANT)
@@ -55,6 +63,18 @@ public:
     static constexpr qreal skipFontSize = 14;
     static constexpr qreal skipInsetHorizontal = 4;
     static constexpr qreal skipInsetVertical = 2;
+
+    // The progress indicator a host may turn on: a thin bar in the theme's accent on a
+    // track in the handle's grey, then "3 of 7", at the panel's top leading corner on Skip's line.
+    // Its box has a fixed size, so both front ends place it alike whatever the font.
+    static constexpr qreal progressTop = skipTop;
+    static constexpr qreal progressLeading = 20;
+    static constexpr qreal progressWidth = 140;
+    static constexpr qreal progressHeight = 21;
+    static constexpr qreal progressBarWidth = 64;
+    static constexpr qreal progressBarHeight = 4;
+    static constexpr qreal progressTextGap = 8;
+    static constexpr qreal progressFontSize = 12;
 
     // The page area inside the panel: below the handle, in from the sides and the bottom.
     static constexpr qreal contentTopBelowHandle = 24;

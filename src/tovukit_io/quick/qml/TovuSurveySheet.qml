@@ -47,6 +47,17 @@ TovuQuickSheet {
             color: TovuStyle.gray4
         }
 
+        // Made only while progress shows: without it the panel is what it always was.
+        Loader {
+            anchors.left: parent.left
+            anchors.leftMargin: TovuSheetMetrics.progressLeading
+            y: TovuSheetMetrics.progressTop
+            active: sheet.progress.shown
+            sourceComponent: TovuProgressIndicator {
+                progress: sheet.progress
+            }
+        }
+
         Flickable {
             id: scroller
             x: TovuSheetMetrics.contentSide
