@@ -56,6 +56,7 @@
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
+#include <tovukit_io/viewmodel/TovuTranslations.h>
 
 #include <tovukit_io/graphics/TovuBoxLook.h>
 #include <tovukit_io/graphics/TovuEmoji.h>

@@ -3,6 +3,8 @@
 
 #include <tovukit_io/tovukit_io.h>
 
+#include <QCoreApplication>
+
 #include <iostream>
 
 int main()
@@ -15,6 +17,14 @@ int main()
     }
     const TovuSurvey survey = document->data.toNativeSurvey();
     TovuLog::print("consumer: " + survey.questions.back().title);
+
+    // The library's texts in other languages are inside it: nothing ships beside the host.
+    int argc = 1;
+    char name[] = "tovu-host";
+    char *argv[] = {name, nullptr};
+    const QCoreApplication application(argc, argv);
+    TovuTranslations::setLanguage(QLocale(QLocale::German));
+    TovuLog::print("consumer: " + document->data.toNativeSurvey().questions.back().title);
 
     TovuNetworkService service;
     service.configure("key", "eu", TovuEnvironment::uat);

@@ -9,6 +9,7 @@
 #include <tovukit_io/viewmodel/TovuAppTheme.h>
 
 #include <QColor>
+#include <QLocale>
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -108,6 +109,16 @@ public:
     void configureTheme(QColor primaryColor);
     /// The held survey's own theme, if any.
     std::optional<TovuTheme> currentTheme() const;
+
+    /// The language of the library's own texts (button titles, messages, screen-reader
+    /// names; see TovuTranslations): the host's locale unless forced here. Pages made
+    /// afterwards use it; an unshipped language shows English.
+    void setLanguage(const QLocale &language);
+    /// The same by name ("de", "pt_BR"), for QML; an empty name follows the host's locale again.
+    Q_INVOKABLE void setLanguage(const QString &language);
+    /// Shows `replacement` wherever the library would show its English text `english`
+    /// ("Skip", "Next →", "Score %1"); an empty `replacement` restores it.
+    Q_INVOKABLE void setText(const QString &english, const QString &replacement);
 
     void setUser(TovuUserData user);
     Q_INVOKABLE void clearUser();

@@ -2,6 +2,8 @@
 
 #include <tovukit_io/network/TovuSurveyText.h>
 
+#include <QCoreApplication>
+
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -9,10 +11,17 @@
 namespace {
 
 constexpr std::string_view thankYouQuestionId = "thank_you_auto";
-constexpr std::string_view defaultThankYouTitle = "Thank You!";
-constexpr std::string_view defaultThankYouSubtitle = "Your feedback is greatly appreciated.";
-constexpr std::string_view defaultLowerLabel = "Not likely";
-constexpr std::string_view defaultUpperLabel = "Very likely";
+// Shown to the respondent, so in the library's language (English unless a translator says otherwise).
+constexpr const char *defaultThankYouTitle = QT_TRANSLATE_NOOP("TovuAPISurveyData", "Thank You!");
+constexpr const char *defaultThankYouSubtitle
+    = QT_TRANSLATE_NOOP("TovuAPISurveyData", "Your feedback is greatly appreciated.");
+constexpr const char *defaultLowerLabel = QT_TRANSLATE_NOOP("TovuAPISurveyData", "Not likely");
+constexpr const char *defaultUpperLabel = QT_TRANSLATE_NOOP("TovuAPISurveyData", "Very likely");
+
+std::string builtInText(const char *english)
+{
+    return QCoreApplication::translate("TovuAPISurveyData", english).toStdString();
+}
 
 using QuestionMap = std::unordered_map<std::string_view, const TovuAPIQuestionDef *>;
 
@@ -74,8 +83,8 @@ std::optional<TovuNPSLabels> npsLabels(const TovuAPISettings &settings)
         return std::nullopt;
     const TovuAPINPSSettings &nps = *settings.nps;
     TovuNPSLabels labels{
-        .lower = nps.leftLabel.value_or(std::string(defaultLowerLabel)),
-        .upper = nps.rightLabel.value_or(std::string(defaultUpperLabel)),
+        .lower = nps.leftLabel.value_or(builtInText(defaultLowerLabel)),
+        .upper = nps.rightLabel.value_or(builtInText(defaultUpperLabel)),
     };
     if (nps.colors) {
         labels.detractorColor = nps.colors->detractor;
@@ -145,7 +154,7 @@ TovuQuestion closingQuestion(const std::optional<TovuAPIThankYouPage> &page)
     TovuQuestion question{
         .id = std::string(thankYouQuestionId),
         .type = TovuQuestionType::thankYou,
-        .title = std::string(defaultThankYouTitle),
+        .title = builtInText(defaultThankYouTitle),
         .isRequired = false,
     };
     if (page && page->enabled) {
@@ -154,7 +163,7 @@ TovuQuestion closingQuestion(const std::optional<TovuAPIThankYouPage> &page)
             question.title = std::move(content);
         question.redirectURL = page->links;
     } else {
-        question.subtitle = std::string(defaultThankYouSubtitle);
+        question.subtitle = builtInText(defaultThankYouSubtitle);
     }
     return question;
 }

@@ -4,6 +4,7 @@
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuPlatformColors.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
+#include <tovukit_io/viewmodel/TovuTranslations.h>
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -144,6 +145,11 @@ QColor TovuQuickStyle::withAlpha(const QColor &color, qreal alpha) const
     QColor result = color;
     result.setAlphaF(static_cast<float>(alpha));
     return result;
+}
+
+bool TovuQuickStyle::isRightToLeft() const
+{
+    return TovuTranslations::layoutDirection() == Qt::RightToLeft;
 }
 
 void TovuQuickStyle::spring(QObject *target, const QString &property, qreal from, qreal to, qreal seconds,

@@ -59,6 +59,8 @@ public:
     Q_INVOKABLE int durationMs(qreal seconds) const;
     /// `color` at `alpha`.
     Q_INVOKABLE QColor withAlpha(const QColor &color, qreal alpha) const;
+    /// Whether the library's texts are in a right-to-left language (or the app is right to left).
+    Q_INVOKABLE bool isRightToLeft() const;
     /// Animates `property` of `target` from `from` to `to` along the library's damped
     /// spring, after `delaySeconds`; at once with motion off.
     Q_INVOKABLE void spring(QObject *target, const QString &property, qreal from, qreal to, qreal seconds,

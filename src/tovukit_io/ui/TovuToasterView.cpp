@@ -9,6 +9,7 @@
 #include <tovukit_io/viewmodel/TovuProgressViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
+#include <tovukit_io/viewmodel/TovuTranslations.h>
 
 #include <QApplication>
 #include <QEvent>
@@ -66,6 +67,9 @@ TovuToasterView::TovuToasterView(std::optional<TovuSurvey> survey, QWidget *pare
     if (m_survey && m_survey->theme && m_survey->theme->transparency)
         m_dimmingAlpha = std::clamp(static_cast<qreal>(*m_survey->theme->transparency), 0.0, 1.0);
     setAttribute(Qt::WA_NoSystemBackground);
+    // The library's texts may be in a right-to-left language inside a left-to-right app.
+    if (TovuTranslations::layoutDirection() == Qt::RightToLeft)
+        setLayoutDirection(Qt::RightToLeft);
     buildPanel();
     restyle();
     m_focusConnection = connect(qApp, &QApplication::focusChanged, this, &TovuToasterView::focusMoved);

@@ -50,3 +50,11 @@ list(APPEND viewmodel_headers
   TovuNPSBands.h
   TovuNPSQuestionViewModel.h
   TovuRatingQuestionViewModel.h)
+
+# The library's own texts in the respondent's language (the catalogues are in ../translations).
+list(APPEND viewmodel_sources
+  TovuTranslations.cpp
+  TovuTranslator.cpp
+  TovuTranslator.h)
+list(APPEND viewmodel_headers
+  TovuTranslations.h)

@@ -34,15 +34,18 @@ void TovuTextBoxQuestionViewModel::buildFields()
             {.placeholder = placeholder ? QString::fromStdString(*placeholder) : tr("Type your answer here\u2026")});
         return;
     }
+    // The default email label may be translated ("E-Mail", "メール"), so it is known by itself.
+    const QString defaultEmail = question()->options ? QString() : tr("Email");
     QStringList labels;
     if (question()->options)
         labels = optionTexts();
     else
-        labels = {tr("Name"), tr("Email"), tr("Comment")};
+        labels = {tr("Name"), defaultEmail, tr("Comment")};
     for (const QString &label : labels) {
-        m_fields.push_back({.label = label,
-                            .placeholder = label + u'\u2026',
-                            .isEmail = label.contains(QLatin1StringView("email"), Qt::CaseInsensitive)});
+        m_fields.push_back(
+            {.label = label,
+             .placeholder = label + u'\u2026',
+             .isEmail = label == defaultEmail || label.contains(QLatin1StringView("email"), Qt::CaseInsensitive)});
     }
 }
 

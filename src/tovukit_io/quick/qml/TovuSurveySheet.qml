@@ -9,8 +9,9 @@ TovuQuickSheet {
 
     anchors.fill: parent
     contentSlot: slot
-    // Right-to-left languages get the whole sheet mirrored, as the widget pages are.
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    // Right-to-left languages get the whole sheet mirrored, as the widget pages are:
+    // the app's, or the library's own when its texts are in one.
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft || TovuStyle.isRightToLeft()
     LayoutMirroring.childrenInherit: true
 
     Rectangle {

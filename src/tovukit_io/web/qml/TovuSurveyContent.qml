@@ -76,7 +76,7 @@ Item {
         anchors { top: parent.top; topMargin: 10; right: parent.right; rightMargin: 10 }
         visible: root.model.isCloseButtonVisible
         Accessible.role: Accessible.Button
-        Accessible.name: "Close survey"
+        Accessible.name: qsTr("Close survey")
         MouseArea { anchors.fill: parent; onClicked: root.model.closeTapped() }
     }
 }
