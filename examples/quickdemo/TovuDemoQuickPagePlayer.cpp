@@ -7,6 +7,7 @@
 #include <tovukit_io/viewmodel/TovuDropdownQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuIntroViewModel.h>
 #include <tovukit_io/viewmodel/TovuMultiRatingQuestionViewModel.h>
+#include <tovukit_io/viewmodel/TovuMultipleChoiceQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuNPSQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuRatingQuestionViewModel.h>
 #include <tovukit_io/viewmodel/TovuTextBoxQuestionViewModel.h>
@@ -56,8 +57,13 @@ std::optional<TovuDemoQuickPagePlayer::Wanted> TovuDemoQuickPagePlayer::wanted(Q
     }
     case Kind::action:
         return question ? name(QAccessible::Button, question->actionTitle()) : std::nullopt;
-    case Kind::option:
-        return question ? name(QAccessible::CheckBox, question->optionTexts().value(control.index)) : std::nullopt;
+    case Kind::option: {
+        // One choice is a radio button, several are check boxes.
+        const QAccessible::Role role = qobject_cast<const TovuMultipleChoiceQuestionViewModel *>(model)
+            ? QAccessible::CheckBox
+            : QAccessible::RadioButton;
+        return question ? name(role, question->optionTexts().value(control.index)) : std::nullopt;
+    }
     case Kind::selector: {
         const auto *dropdown = qobject_cast<const TovuDropdownQuestionViewModel *>(model);
         return dropdown ? name(QAccessible::Button, dropdown->selectorTitle()) : std::nullopt;
@@ -81,7 +87,7 @@ std::optional<TovuDemoQuickPagePlayer::Wanted> TovuDemoQuickPagePlayer::wanted(Q
         const auto *nps = qobject_cast<const TovuNPSQuestionViewModel *>(model);
         if (!nps)
             return std::nullopt;
-        return name(QAccessible::CheckBox,
+        return name(QAccessible::RadioButton,
                     nps->followUpOptionTexts().value(nps->followUpOptionIds().indexOf(control.id)));
     }
     case Kind::followUpField: {

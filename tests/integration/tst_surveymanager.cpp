@@ -27,6 +27,7 @@ using Refusal = TovuNativeSurveyManager::PresentationRefusal;
 const std::string satisfactionId = "03ce355f-163d-420a-9980-f630e7af337c";
 const std::string onboardingId = "9ae5c581-202c-4dd1-b268-dab86f00c0e7";
 const std::string feedbackId = "e09b241d-5a3c-4df7-82e0-9032a0b0f2cc";
+const std::string everyTypeId = "7ac257b7-e00d-4e29-bb03-2fd59a7b8d9e";
 
 TovuQuestion choice(std::string id, std::string title)
 {
@@ -173,13 +174,24 @@ TEST_F(SurveyManager, EverySampleSurveyReachesTheBackendAsAnswered)
     const struct {
         std::string surveyId;
         std::optional<std::string> collector;
+        bool keysAlone = false;
+        bool screenReader = false;
     } runs[] = {
         {satisfactionId, "collector-customer-satisfaction"},
         {onboardingId, std::nullopt},
         {feedbackId, "collector-product-feedback"},
+        // Every question type, answered with Tab, arrows, Space and typing only.
+        {everyTypeId, "collector-every-question-type", true},
+        // And through a screen reader's actions alone: press, toggle and text.
+        {everyTypeId, "collector-every-question-type", false, true},
     };
     for (const auto &run : runs) {
-        SCOPED_TRACE(run.surveyId);
+        SCOPED_TRACE(run.surveyId
+                     + (run.keysAlone          ? " with keys alone"
+                            : run.screenReader ? " by a screen reader"
+                                               : ""));
+        clicker.keyboardOnly = run.keysAlone;
+        clicker.screenReaderOnly = run.screenReader;
         manager = makeManager(monitor); // a host's first session of each kind
         manager->setUser(TovuUserData{.name = "Ana",
                                       .email = "ana@example.com",
@@ -204,8 +216,8 @@ TEST_F(SurveyManager, EverySampleSurveyReachesTheBackendAsAnswered)
         EXPECT_FALSE(manager->survey()) << "the next session fetches again";
 
         const Json stored = storedFor(run.surveyId);
-        ASSERT_EQ(stored.size(), 1u);
-        const Json &payload = stored[0]["payload"];
+        ASSERT_EQ(stored.size(), run.screenReader ? 2u : 1u) << "one response a run";
+        const Json &payload = stored.back()["payload"];
         EXPECT_EQ(payload["collector_id"], run.collector.value_or(""));
         const Json &item = payload["responses"][0];
         EXPECT_EQ(item["response_status"], "complete");

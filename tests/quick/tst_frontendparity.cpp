@@ -112,6 +112,7 @@ protected:
 
     static Control button(const char *name) { return {QAccessible::Button, QString::fromUtf8(name)}; }
     static Control option(const char *name) { return {QAccessible::CheckBox, QString::fromUtf8(name)}; }
+    static Control radio(const char *name) { return {QAccessible::RadioButton, QString::fromUtf8(name)}; }
     static Control text(const char *name) { return {QAccessible::StaticText, QString::fromUtf8(name)}; }
     static Control field(const char *name) { return {QAccessible::EditableText, QString::fromUtf8(name)}; }
 };
@@ -128,7 +129,7 @@ TEST_F(FrontEndParity, QuestionPagesPlaceTheirControlsAlike)
     } pages[] = {
         {TovuQuestionType::singleChoice,
          false,
-         {text(title), option("A friend"), option("An advert"), option("Search"), button("Next \u2192")}},
+         {text(title), radio("A friend"), radio("An advert"), radio("Search"), button("Next \u2192")}},
         {TovuQuestionType::multipleChoice,
          true,
          {text(title), text("Select all that apply"), option("A friend"), option("Search"), button("Submit")}},
@@ -176,8 +177,7 @@ TEST_F(FrontEndParity, NPSPagesPlaceTheirScalesAndFollowUpsAlike)
                     {text("What made you choose that?"), field("What made you choose that?"), button("Submit")});
     compare(TovuPageRequest{.question = nps}, promoter, score(9));
     std::vector<Control> detractor = scale;
-    detractor.insert(detractor.end(),
-                     {text("What went wrong?"), option("Delivery"), option("Price"), button("Submit")});
+    detractor.insert(detractor.end(), {text("What went wrong?"), radio("Delivery"), radio("Price"), button("Submit")});
     compare(TovuPageRequest{.question = nps}, detractor, score(3));
 }
 

@@ -87,8 +87,17 @@ TEST_F(QuickManager, AQmlHostAnswersEveryQuestionTypeAndTheBackendStoresIt)
     QSignalSpy shown(&manager, &TovuNativeSurveyManager::surveyShown);
     QSignalSpy sent(&manager, &TovuNativeSurveyManager::responseSent);
     // An intro page, choices, a dropdown and text boxes; then every scale, rating variant and grid.
-    for (const auto &[surveyId, leastPages] : {std::pair{onboardingId, 6}, std::pair{everyTypeId, 9}}) {
-        SCOPED_TRACE(surveyId);
+    const struct {
+        std::string surveyId;
+        int leastPages;
+        bool keysAlone = false;
+        bool screenReader = false;
+    } runs[] = {{onboardingId, 6}, {everyTypeId, 9}, {everyTypeId, 9, true}, {everyTypeId, 9, false, true}};
+    for (const auto &[surveyId, leastPages, keysAlone, screenReader] : runs) {
+        SCOPED_TRACE(surveyId + (keysAlone ? " with keys alone" : screenReader ? " by a screen reader" : ""));
+        // Tab, arrows, Space and typing only, or a screen reader's actions only: no pointer at all.
+        TovuQuickSurveyClicker::keyboardOnly = keysAlone;
+        TovuQuickSurveyClicker::screenReaderOnly = screenReader;
         shown.clear();
         sent.clear();
         clicker.expected.clear();
@@ -113,8 +122,8 @@ TEST_F(QuickManager, AQmlHostAnswersEveryQuestionTypeAndTheBackendStoresIt)
         EXPECT_EQ(window->property("hostTaps").toInt(), 0) << "no click went through the sheet";
 
         const Json stored = storedFor(surveyId);
-        ASSERT_EQ(stored.size(), 1u);
-        const Json &item = stored[0]["payload"]["responses"][0];
+        ASSERT_EQ(stored.size(), keysAlone ? 2u : screenReader ? 3u : 1u) << "one response a run";
+        const Json &item = stored.back()["payload"]["responses"][0];
         EXPECT_EQ(item["response_status"], "complete");
         EXPECT_EQ(item["custom_variables"],
                   (Json{{"city", "Berlin"}, {"email", "ana@example.com"}, {"fName", "Ana"}, {"plan", "pro"}}));
@@ -123,6 +132,8 @@ TEST_F(QuickManager, AQmlHostAnswersEveryQuestionTypeAndTheBackendStoresIt)
         ASSERT_TRUE(QTest::qWaitFor([&] { return !manager.quickSheet(); }, 3000));
     }
 
+    TovuQuickSurveyClicker::keyboardOnly = false;
+    TovuQuickSurveyClicker::screenReaderOnly = false;
     // A flush from QML calls the script back.
     QMetaObject::invokeMethod(window, "flush");
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->property("flushed").toBool(); }, 5000));

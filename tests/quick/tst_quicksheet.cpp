@@ -99,7 +99,6 @@ TEST_F(QuickSheet, CoversTheHostAndKeepsEveryInputAwayFromIt)
     // Taps on the dimming layer, wheel turns and keys end at the sheet.
     QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(200, 40));
     QTest::keyClick(window, Qt::Key_A);
-    QTest::keyClick(window, Qt::Key_Escape);
     EXPECT_EQ(window->property("hostTaps").toInt(), 0);
     EXPECT_EQ(window->property("hostKeys").toInt(), 0);
 
@@ -132,6 +131,12 @@ TEST_F(QuickSheet, CoversTheHostAndKeepsEveryInputAwayFromIt)
     TovuMotion::setDurationScale(0);
     EXPECT_TRUE(hostField->hasActiveFocus());
     EXPECT_EQ(window->property("hostTaps").toInt(), 0);
+
+    // Escape is Skip, and the host never hears it.
+    ASSERT_TRUE(show(question(TovuQuestionType::singleChoice)));
+    QTest::keyClick(window, Qt::Key_Escape);
+    EXPECT_EQ(skips, 2);
+    EXPECT_EQ(window->property("hostKeys").toInt(), 0);
 }
 
 TEST_F(QuickSheet, AnItemHostIsCoveredAndFollowedAsItResizes)

@@ -20,6 +20,7 @@
 #include <tovukit_io/viewmodel/TovuThankYouViewModel.h>
 
 #include <QAccessible>
+#include <QAccessibleActionInterface>
 #include <QCoreApplication>
 #include <QPointer>
 #include <QQuickItem>
@@ -62,8 +63,11 @@ public:
     /// The button or checkable row `name` below `root`.
     static QAccessibleInterface *control(QObject *root, const QString &name)
     {
-        QAccessibleInterface *button = node(root, QAccessible::Button, name);
-        return button ? button : node(root, QAccessible::CheckBox, name);
+        for (const QAccessible::Role role : {QAccessible::Button, QAccessible::CheckBox, QAccessible::RadioButton}) {
+            if (QAccessibleInterface *found = node(root, role, name))
+                return found;
+        }
+        return nullptr;
     }
 
     /// The names of the visible texts below `root`, in order.
@@ -99,11 +103,54 @@ public:
             view->setProperty("contentY", view->property("contentY").toReal() + shift);
     }
 
+    /// Answers with key presses alone: Tab to each control (arrows within a row of cells), Space to press it.
+    static inline bool keyboardOnly = false;
+    /// Answers through accessibility alone: press and toggle actions, text set as the field's value.
+    static inline bool screenReaderOnly = false;
+
+    /// Tabs to what `node` is (a cell of a row: Tab to its row, then arrows), then presses Space;
+    /// a field is only reached, typing follows.
+    static bool press(QQuickWindow *window, QAccessibleInterface *node)
+    {
+        auto *item = qobject_cast<QQuickItem *>(node->object());
+        QAccessibleInterface *row = item ? nullptr : node->parent();
+        QQuickItem *target = item ? item : qobject_cast<QQuickItem *>(row ? row->object() : nullptr);
+        if (!target)
+            return false;
+        for (int presses = 0; presses < 120 && window->activeFocusItem() != target; ++presses)
+            QTest::keyClick(window, Qt::Key_Tab);
+        if (window->activeFocusItem() != target)
+            return false;
+        if (row) {
+            const int cell = row->indexOfChild(node);
+            for (int presses = 0; presses < 30 && target->property("currentIndex").toInt() != cell; ++presses) {
+                const bool ahead = target->property("currentIndex").toInt() < cell;
+                const bool mirrored = target->property("mirrored").toBool();
+                QTest::keyClick(window, ahead != mirrored ? Qt::Key_Right : Qt::Key_Left);
+            }
+        }
+        if (!(target->flags() & QQuickItem::ItemAcceptsInputMethod))
+            QTest::keyClick(window, Qt::Key_Space);
+        return true;
+    }
+
     /// A real click in the middle of what `node` covers, scrolled into view first.
     static bool click(QQuickWindow *window, QAccessibleInterface *node)
     {
         if (!node || !window)
             return false;
+        if (keyboardOnly)
+            return press(window, node);
+        if (screenReaderOnly) {
+            // What a screen reader's user does: the control's own action, toggle or press.
+            QAccessibleActionInterface *actions = node->actionInterface();
+            if (!actions)
+                return false;
+            const bool toggles = actions->actionNames().contains(QAccessibleActionInterface::toggleAction());
+            actions->doAction(toggles ? QAccessibleActionInterface::toggleAction()
+                                      : QAccessibleActionInterface::pressAction());
+            return true;
+        }
         // Let pending layout (positioners, anchors) settle first: a respondent taps what a frame shows.
         QCoreApplication::processEvents();
         QQuickTest::qWaitForPolish(window);
@@ -125,6 +172,16 @@ public:
     /// Clicks into the field `name` and types `text` (ASCII), key by key.
     static bool type(QQuickWindow *window, QObject *root, const QString &name, const QString &text)
     {
+        if (screenReaderOnly) {
+            QAccessibleInterface *field = node(root, QAccessible::EditableText, name);
+            if (!field)
+                return false;
+            if (QAccessibleEditableTextInterface *editable = field->editableTextInterface())
+                editable->insertText(0, text);
+            else
+                field->setText(QAccessible::Value, text);
+            return true;
+        }
         if (!click(window, node(root, QAccessible::EditableText, name)))
             return false;
         for (const QChar c : text)

@@ -19,6 +19,9 @@
 #include <tovukit_io/ui/kit/TovuTextArea.h>
 #include <tovukit_io/ui/kit/TovuTextField.h>
 
+#include <QAccessible>
+#include <QAccessibleActionInterface>
+#include <QApplication>
 #include <QLayout>
 #include <QPointer>
 #include <QTest>
@@ -85,11 +88,48 @@ public:
     }
 
     std::vector<Expected> expected;
+    /// Answers with key presses alone: Tab to each control, Space to press it.
+    bool keyboardOnly = false;
+    /// Answers through accessibility alone: press and toggle actions, text inserted.
+    bool screenReaderOnly = false;
 
 private:
-    static void click(QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+    void click(QWidget *widget) const
+    {
+        if (screenReaderOnly) {
+            // What a screen reader's user does: the control's own action, toggle or press.
+            QAccessibleInterface *control = QAccessible::queryAccessibleInterface(widget);
+            if (QAccessibleActionInterface *actions = control ? control->actionInterface() : nullptr) {
+                const bool toggles = actions->actionNames().contains(QAccessibleActionInterface::toggleAction());
+                actions->doAction(toggles ? QAccessibleActionInterface::toggleAction()
+                                          : QAccessibleActionInterface::pressAction());
+            }
+            return;
+        }
+        if (!keyboardOnly) {
+            QTest::mouseClick(widget, Qt::LeftButton);
+            return;
+        }
+        // Tab until the control has focus, then Space (a field is only reached: typing follows).
+        for (int presses = 0; presses < 120 && QApplication::focusWidget() != widget; ++presses)
+            QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : widget->window(), Qt::Key_Tab);
+        if (!widget->testAttribute(Qt::WA_InputMethodEnabled))
+            QTest::keyClick(widget, Qt::Key_Space);
+    }
 
-    static void clickIfVisible(TovuButton *button)
+    void type(QWidget *field, const QString &text) const
+    {
+        if (screenReaderOnly) {
+            QAccessibleInterface *control = QAccessible::queryAccessibleInterface(field);
+            if (QAccessibleEditableTextInterface *editable = control ? control->editableTextInterface() : nullptr)
+                editable->insertText(0, text);
+            return;
+        }
+        click(field);
+        QTest::keyClicks(field, text);
+    }
+
+    void clickIfVisible(TovuButton *button) const
     {
         if (button && button->isVisible())
             click(button);
@@ -126,8 +166,7 @@ private:
     {
         const auto count = static_cast<int>(view.textFields().size());
         for (int index = 0; index < count; ++index) {
-            click(view.textFields()[index]);
-            QTest::keyClicks(view.textFields()[index], QString::fromStdString(Pick::fieldText(index)));
+            type(view.textFields()[index], QString::fromStdString(Pick::fieldText(index)));
         }
         expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question(), count));
         click(view.submitButton());
@@ -139,8 +178,7 @@ private:
         if (!view.followUpOptionButtons().isEmpty() && view.followUpOptionButtons()[0]->isVisible())
             click(view.followUpOptionButtons()[0]);
         if (view.followUpText() && view.followUpText()->isVisible()) {
-            click(view.followUpText());
-            QTest::keyClicks(view.followUpText(), QString::fromUtf8(Pick::followUpText));
+            type(view.followUpText(), QString::fromUtf8(Pick::followUpText));
         }
         expected.push_back(TovuAnsweredPages::expectedFor(*view.viewModel()->question()));
         click(view.actionButton());

@@ -80,6 +80,9 @@ public:
         state.focused = row->hasActiveFocus() && row->currentIndex() == m_index;
         state.checkable = row->isCellCheckable();
         state.checked = state.checkable && row->isCellChecked(m_index);
+        // A chosen score is no check box, but a screen reader should hear it is the one.
+        state.selected = row->isCellChecked(m_index);
+        state.selectable = true;
         return state;
     }
 

@@ -2,7 +2,11 @@
 
 #include "TovuCellRowAccessible.h"
 
+#include <tovukit_io/graphics/TovuPainting.h>
+#include <tovukit_io/quick/TovuQuickStyle.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
+#include <tovukit_io/viewmodel/TovuPageMetrics.h>
+#include <tovukit_io/viewmodel/TovuThemeEngine.h>
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -214,6 +218,26 @@ void TovuCellRowItem::paintRow(QPainter &) { }
 
 void TovuCellRowItem::cellTapped(int) { }
 
+bool TovuCellRowItem::isCellFilled(int) const
+{
+    return false;
+}
+
+void TovuCellRowItem::paintFocusRing(QPainter &painter)
+{
+    if (!hasActiveFocus() || !TovuQuickStyle::keyboardNavigation() || m_current < 0)
+        return;
+    const bool filled = isCellFilled(m_current);
+    const qreal width = TovuPageMetrics::focusRingWidth;
+    const qreal inset = filled ? width * 1.5 : width / 2;
+    const QRectF rect = cellRect(m_current).adjusted(inset, inset, -inset, -inset);
+    const QColor colour
+        = filled ? TovuThemeEngine::shared().backgroundColor() : TovuThemeEngine::shared().primaryColor();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(TovuPainting::roundedRect(rect, TovuPageMetrics::scoreCornerRadius - inset),
+                       QPen(colour, width));
+}
+
 void TovuCellRowItem::cellsChanged()
 {
     update();
@@ -234,6 +258,7 @@ void TovuCellRowItem::paint(QPainter *painter)
         paintCell(*painter, index, rect);
     }
     paintRow(*painter);
+    paintFocusRing(*painter);
 }
 
 void TovuCellRowItem::scrollToShow(int index)
@@ -360,9 +385,16 @@ void TovuCellRowItem::keyPressEvent(QKeyEvent *event)
     update();
 }
 
+void TovuCellRowItem::focusOutEvent(QFocusEvent *event)
+{
+    QQuickPaintedItem::focusOutEvent(event);
+    update();
+}
+
 void TovuCellRowItem::focusInEvent(QFocusEvent *event)
 {
     QQuickPaintedItem::focusInEvent(event);
+    update();
     if (m_current < 0 && cellCount() > 0)
         setCurrentIndex(0);
     TovuCellRowAccessible::notifyFocus(this, m_current);

@@ -97,6 +97,9 @@ protected:
     virtual void paintRow(QPainter &painter);
     /// A cell was tapped: act on it.
     virtual void cellTapped(int index);
+    /// Whether cell `index` is filled with a colour of its own: its focus ring then takes the
+    /// background's colour rather than the theme's.
+    virtual bool isCellFilled(int index) const;
     /// The cells' look or state changed: repaint and tell a screen reader.
     void cellsChanged();
     /// Sets a look property of a subclass: repaints and emits lookChanged() when it differs.
@@ -118,10 +121,12 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
     void setCurrentIndex(int index);
+    void paintFocusRing(QPainter &painter);
     void scrollToShow(int index);
     void setWidths(QList<qreal> widths);
     void relayout();

@@ -1,10 +1,13 @@
 #include <tovukit_io/quick/TovuQuickSheet.h>
 
+#include <tovukit_io/quick/TovuQuickStyle.h>
+
 #include <tovukit_io/viewmodel/TovuKeyboardLift.h>
 #include <tovukit_io/viewmodel/TovuMotion.h>
 #include <tovukit_io/viewmodel/TovuProgressViewModel.h>
 #include <tovukit_io/viewmodel/TovuSheetMetrics.h>
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QQuickWindow>
 
@@ -18,6 +21,19 @@ bool isTab(const QKeyEvent *event)
 {
     return (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)
         && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
+QAccessibleInterface *firstText(QAccessibleInterface *node)
+{
+    if (!node)
+        return nullptr;
+    if (node->role() == QAccessible::StaticText)
+        return node;
+    for (int i = 0; i < node->childCount(); ++i) {
+        if (QAccessibleInterface *text = firstText(node->child(i)))
+            return text;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -129,8 +145,33 @@ void TovuQuickSheet::setQuestionView(QQuickItem *page)
     if (page) {
         page->setParent(this);
         page->setParentItem(m_slot ? m_slot.data() : this);
+        greetPage(page);
     }
     Q_EMIT currentPageChanged();
+}
+
+void TovuQuickSheet::greetPage(QQuickItem *page)
+{
+    if (m_dismissing)
+        return;
+    const bool keys = TovuQuickStyle::keyboardNavigation();
+    for (QQuickItem *candidate = page->nextItemInFocusChain(true); candidate && candidate != page;
+         candidate = candidate->nextItemInFocusChain(true)) {
+        if (!page->isAncestorOf(candidate))
+            break;
+        // A pointer user's first field is not focused: on a touch screen that would raise the keyboard.
+        if (!keys && (candidate->flags() & QQuickItem::ItemAcceptsInputMethod))
+            break;
+        candidate->forceActiveFocus(keys ? Qt::TabFocusReason : Qt::OtherFocusReason);
+        break;
+    }
+    // A screen reader hears the page's first text: its title, or the intro's words.
+    if (!QAccessible::isActive())
+        return;
+    if (QAccessibleInterface *title = firstText(QAccessible::queryAccessibleInterface(page))) {
+        QAccessibleEvent announce(title, QAccessible::Alert);
+        QAccessible::updateAccessibility(&announce);
+    }
 }
 
 void TovuQuickSheet::setProgress(int current, int total)
@@ -249,6 +290,14 @@ bool TovuQuickSheet::eventFilter(QObject *watched, QEvent *event)
         // The host's shortcuts stay quiet while the sheet is up: keys go to the sheet.
         event->accept();
         return false;
+    }
+    if (event->type() == QEvent::KeyPress)
+        TovuQuickStyle::setKeyboardNavigation(true);
+    else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+        TovuQuickStyle::setKeyboardNavigation(false);
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        skipTapped(); // Escape is Skip
+        return true;
     }
     if (event->type() == QEvent::KeyPress && isTab(static_cast<QKeyEvent *>(event))) {
         const auto *key = static_cast<QKeyEvent *>(event);

@@ -94,6 +94,8 @@ private:
     void activeFocusMoved();
     void restoreFocus();
     void scrollIntoView(QQuickItem *item);
+    /// A new page: its first control takes focus and a screen reader hears its title.
+    void greetPage(QQuickItem *page);
     void setTranslation(qreal translation);
     void setBottomOffset(qreal offset);
 

@@ -48,6 +48,28 @@ void TovuQuickStyle::refreshAll()
     }
 }
 
+namespace {
+
+bool keysInUse = false;
+
+} // namespace
+
+bool TovuQuickStyle::keyboardNavigation()
+{
+    return keysInUse;
+}
+
+void TovuQuickStyle::setKeyboardNavigation(bool keys)
+{
+    if (keysInUse == keys)
+        return;
+    keysInUse = keys;
+    for (const QPointer<TovuQuickStyle> &style : styles()) {
+        if (style)
+            Q_EMIT style->keyboardNavigationChanged();
+    }
+}
+
 bool TovuQuickStyle::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == QCoreApplication::instance() && event->type() == QEvent::ApplicationPaletteChange)

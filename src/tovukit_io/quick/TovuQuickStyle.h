@@ -18,6 +18,8 @@ class TovuQuickStyle : public QObject
     QML_NAMED_ELEMENT(TovuStyle)
     QML_SINGLETON
     Q_PROPERTY(QColor primaryColor READ primaryColor NOTIFY changed)
+    /// Whether the respondent moves with keys rather than a pointer: focus rings show then.
+    Q_PROPERTY(bool keyboardNavigation READ keyboardNavigation NOTIFY keyboardNavigationChanged)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY changed)
     Q_PROPERTY(QColor textColor READ textColor NOTIFY changed)
     Q_PROPERTY(qreal cornerRadius READ cornerRadius NOTIFY changed)
@@ -68,9 +70,13 @@ public:
 
     /// Every style singleton resolves its colours again (a new survey theme, say).
     static void refreshAll();
+    static bool keyboardNavigation();
+    /// The sheet says how the respondent last moved: keys (true) or a pointer.
+    static void setKeyboardNavigation(bool keys);
 
 Q_SIGNALS:
     void changed();
+    void keyboardNavigationChanged();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -77,6 +77,11 @@ QString TovuScoreRowItem::cellDescription(int) const
     return m_description;
 }
 
+bool TovuScoreRowItem::isCellChecked(int index) const
+{
+    return chosenScore() == index;
+}
+
 int TovuScoreRowItem::chosenScore() const
 {
     if (m_single)

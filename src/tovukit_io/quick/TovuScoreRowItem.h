@@ -55,6 +55,8 @@ public:
     QAccessible::Role cellRole() const override { return QAccessible::Button; }
     QString cellName(int index) const override;
     QString cellDescription(int index) const override;
+    /// The chosen score, which a screen reader hears as selected.
+    bool isCellChecked(int index) const override;
 
 Q_SIGNALS:
     void modelChanged();
@@ -62,6 +64,7 @@ Q_SIGNALS:
 protected:
     void paintCell(QPainter &painter, int index, const QRectF &rect) override;
     void cellTapped(int index) override;
+    bool isCellFilled(int) const override { return true; }
 
 private:
     int chosenScore() const;

@@ -11,10 +11,13 @@
 #include <tovukit_io/viewmodel/TovuThemeEngine.h>
 #include <tovukit_io/viewmodel/TovuTranslations.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QInputMethod>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScroller>
@@ -137,6 +140,8 @@ void TovuToasterView::present(QWidget *host)
     setParent(host);
     setGeometry(host->rect());
     host->installEventFilter(this);
+    // Watches how the respondent moves around: keys or a pointer.
+    qApp->installEventFilter(this);
     m_keyboardLift->setTracking(true);
     setTranslation(Metrics::offscreenDistance);
     show();
@@ -156,6 +161,7 @@ void TovuToasterView::dismiss()
     m_dismissing = true;
     endInput();
     m_keyboardLift->setTracking(false);
+    qApp->removeEventFilter(this);
     if (m_host)
         m_host->removeEventFilter(this);
     auto *fade = new QGraphicsOpacityEffect(this);
@@ -276,6 +282,38 @@ void TovuToasterView::setQuestionView(QWidget *view)
     if (view)
         m_contentStack->addWidget(view);
     layoutPanel();
+    if (view && m_host && !m_dismissing)
+        greetPage(view);
+}
+
+void TovuToasterView::greetPage(QWidget *view)
+{
+    view->show();
+    for (QWidget *candidate = view->nextInFocusChain(); candidate && candidate != view;
+         candidate = candidate->nextInFocusChain()) {
+        if (!view->isAncestorOf(candidate) || !isTabStop(candidate, view))
+            continue;
+        // A pointer user's first field is not focused: on a touch screen that would raise the keyboard.
+        if (!m_keyboardNavigation && candidate->testAttribute(Qt::WA_InputMethodEnabled))
+            break;
+        candidate->setFocus(m_keyboardNavigation ? Qt::TabFocusReason : Qt::OtherFocusReason);
+        break;
+    }
+    // The first text of a page is its title (or the intro's words).
+    if (auto *title = view->findChild<QLabel *>(); title && QAccessible::isActive()) {
+        QAccessibleEvent announce(title, QAccessible::Alert);
+        QAccessible::updateAccessibility(&announce);
+    }
+}
+
+void TovuToasterView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && m_host && !m_dismissing) {
+        skipTapped();
+        event->accept();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void TovuToasterView::setProgress(int current, int total)
@@ -383,6 +421,10 @@ void TovuToasterView::changeEvent(QEvent *event)
 
 bool TovuToasterView::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::KeyPress && watched->isWidgetType() && contains(static_cast<QWidget *>(watched)))
+        m_keyboardNavigation = true;
+    else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+        m_keyboardNavigation = false;
     if (watched == m_host && event->type() == QEvent::Resize)
         setGeometry(m_host->rect());
     else if (watched == m_content && event->type() == QEvent::LayoutRequest)

@@ -83,6 +83,8 @@ protected:
     void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    /// Escape is Skip.
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void buildPanel();
@@ -93,6 +95,8 @@ private:
     bool contains(const QWidget *widget) const;
     void focusMoved(QWidget *old, QWidget *now);
     void ensureFocusVisible(QWidget *focus);
+    /// A new page: its first control takes focus and a screen reader hears its title.
+    void greetPage(QWidget *view);
     void layoutPanel();
     int panelHeight() const;
     void setTranslation(qreal translation);
@@ -115,4 +119,7 @@ private:
     qreal m_translation = 0;
     qreal m_bottomOffset = 0;
     bool m_dismissing = false;
+    // Whether the respondent last used keys rather than a pointer: a new page's first
+    // control then shows its focus ring.
+    bool m_keyboardNavigation = false;
 };

@@ -80,6 +80,7 @@ class TovuPageMetrics : public QObject
     Q_PROPERTY(qreal fieldFocusedBorderWidth MEMBER fieldFocusedBorderWidth CONSTANT)
     Q_PROPERTY(qreal fieldPadding MEMBER fieldPadding CONSTANT)
     Q_PROPERTY(qreal fieldFocusSeconds MEMBER fieldFocusSeconds CONSTANT)
+    Q_PROPERTY(qreal focusRingWidth MEMBER focusRingWidth CONSTANT)
     Q_PROPERTY(qreal fieldLabelFontSize MEMBER fieldLabelFontSize CONSTANT)
     Q_PROPERTY(qreal fieldGroupSpacing MEMBER fieldGroupSpacing CONSTANT)
     Q_PROPERTY(qreal inputsSpacing MEMBER inputsSpacing CONSTANT)
@@ -255,6 +256,9 @@ public:
     static constexpr qreal fieldFocusedBorderWidth = 2;
     static constexpr qreal fieldPadding = 14;
     static constexpr qreal fieldFocusSeconds = 0.2;
+    /// The keyboard's focus ring, inside a control's edge: the theme's colour, or the
+    /// background's on a control filled with the theme's colour.
+    static constexpr qreal focusRingWidth = 2;
     static constexpr qreal fieldLabelFontSize = 13;
     static constexpr qreal fieldGroupSpacing = 6;
     static constexpr qreal inputsSpacing = 14;

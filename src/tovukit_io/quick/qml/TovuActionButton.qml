@@ -21,6 +21,8 @@ Rectangle {
     Keys.onReturnPressed: button.tapped()
     Keys.onEnterPressed: button.tapped()
 
+    TovuFocusRing { cornerRadius: button.radius - TovuPageMetrics.focusRingWidth; onAccent: true }
+
     Text {
         anchors.fill: parent
         horizontalAlignment: Text.AlignHCenter

@@ -29,6 +29,8 @@ TovuQuestionPage {
         Keys.onReturnPressed: page.model.toggleExpanded()
         Keys.onEnterPressed: page.model.toggleExpanded()
 
+        TovuFocusRing { cornerRadius: selector.radius }
+
         Text {
             anchors.left: parent.left
             anchors.leftMargin: TovuPageMetrics.selectorInsetLeading
@@ -126,6 +128,17 @@ TovuQuestionPage {
                         Keys.onSpacePressed: page.model.chooseOption(entry.index)
                         Keys.onReturnPressed: page.model.chooseOption(entry.index)
                         Keys.onEnterPressed: page.model.chooseOption(entry.index)
+                        // Arrows move along the list and never out of it.
+                        Keys.onUpPressed: choice.moveFocus(false)
+                        Keys.onDownPressed: choice.moveFocus(true)
+                        readonly property bool isListEntry: true
+                        function moveFocus(forward) {
+                            const next = choice.nextItemInFocusChain(forward)
+                            if (next && next.isListEntry)
+                                next.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+                        }
+
+                        TovuFocusRing {}
 
                         Text {
                             anchors.fill: parent

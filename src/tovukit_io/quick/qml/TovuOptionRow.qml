@@ -30,8 +30,8 @@ Rectangle {
     color: row.chosen ? TovuStyle.withAlpha(row.accent, TovuPageMetrics.chosenFillAlpha) : TovuStyle.systemBackground
     activeFocusOnTab: true
 
-    // A checkable button, as a screen reader knows the widget pages' rows.
-    Accessible.role: Accessible.CheckBox
+    // A radio button or a check box, as a screen reader knows the widget pages' rows.
+    Accessible.role: row.checkbox ? Accessible.CheckBox : Accessible.RadioButton
     Accessible.name: row.text
     Accessible.checkable: true
     Accessible.checked: row.chosen
@@ -40,6 +40,17 @@ Rectangle {
     Keys.onSpacePressed: row.tapped()
     Keys.onReturnPressed: row.tapped()
     Keys.onEnterPressed: row.tapped()
+    // Arrows move between the rows of one list and never out of it.
+    Keys.onUpPressed: row.moveFocus(false)
+    Keys.onDownPressed: row.moveFocus(true)
+    readonly property bool isOptionRow: true
+    function moveFocus(forward) {
+        const next = row.nextItemInFocusChain(forward)
+        if (next && next.isOptionRow && next.parent === row.parent)
+            next.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+    }
+
+    TovuFocusRing { cornerRadius: row.radius }
 
     SequentialAnimation {
         id: press

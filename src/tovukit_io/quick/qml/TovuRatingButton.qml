@@ -33,6 +33,8 @@ Rectangle {
     Keys.onReturnPressed: button.tapped()
     Keys.onEnterPressed: button.tapped()
 
+    TovuFocusRing { cornerRadius: button.radius }
+
     SequentialAnimation {
         id: bump
         NumberAnimation {

@@ -2,6 +2,8 @@
 list(APPEND ui_sources
   kit/TovuBox.cpp
   kit/TovuButton.cpp
+  kit/TovuButtonAccessible.cpp
+  kit/TovuButtonAccessible.h
   kit/TovuButtonScaleEffect.h
   kit/TovuCaptionRow.cpp
   kit/TovuChevron.cpp

@@ -1,5 +1,7 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 
+#include "TovuButtonAccessible.h"
+
 #include <tovukit_io/graphics/TovuEmoji.h>
 #include <tovukit_io/graphics/TovuPainting.h>
 #include <tovukit_io/graphics/TovuSymbol.h>
@@ -14,6 +16,7 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QPainter>
 #include <QStyle>
@@ -35,6 +38,7 @@ TovuButton::TovuButton(const QString &title, QWidget *parent)
     : QAbstractButton(parent)
     , m_accessoryInset(Metrics::markLeading)
 {
+    TovuButtonAccessible::install();
     // Corners outside the radius stay transparent, also when the button is grabbed alone.
     setAttribute(Qt::WA_NoSystemBackground);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum, QSizePolicy::PushButton);
@@ -402,11 +406,18 @@ void TovuButton::paintContent(QPainter &painter)
     paintLabel(painter, bounds.marginsRemoved(QMarginsF(visualInsets())));
     painter.restore();
 
-    // Keyboard users need to see where they are; a pointer press shows no ring.
+    // Keyboard users need to see where they are; a pointer press shows no ring. On a filled
+    // button the ring takes the system background's colour, a little inside the edge.
     if (hasFocus() && m_keyboardFocus) {
+        const QColor background = backgroundColor();
+        const QColor system = TovuPlatformColors::color(TovuPlatformColors::Role::systemBackground);
+        const bool filled = background.alpha() == 255 && background != system;
+        const qreal width = TovuPageMetrics::focusRingWidth;
+        const qreal inset = filled ? width * 1.5 : width / 2;
         const qreal radius = TovuPainting::effectiveRadius(bounds.size(), m_look.cornerRadius);
-        painter.strokePath(TovuPainting::roundedRect(bounds.adjusted(1, 1, -1, -1), std::max<qreal>(0, radius - 1)),
-                           QPen(accessoryColor(), 2));
+        painter.strokePath(TovuPainting::roundedRect(bounds.adjusted(inset, inset, -inset, -inset),
+                                                     std::max<qreal>(0, radius - inset)),
+                           QPen(filled ? system : accessoryColor(), width));
     }
 }
 
@@ -485,6 +496,55 @@ void TovuButton::focusInEvent(QFocusEvent *event)
         || event->reason() == Qt::ShortcutFocusReason;
     QAbstractButton::focusInEvent(event);
     update();
+}
+
+void TovuButton::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat())
+            click();
+        event->accept();
+        return;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (TovuButton *next = neighbour(event->key()))
+            next->setFocus(Qt::TabFocusReason);
+        event->accept();
+        return;
+    default:
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+TovuButton *TovuButton::neighbour(int key) const
+{
+    const bool across = key == Qt::Key_Left || key == Qt::Key_Right;
+    const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
+    const bool forward = key == Qt::Key_Down || key == (rightToLeft ? Qt::Key_Left : Qt::Key_Right);
+    QList<TovuButton *> group;
+    for (QObject *child : parent() ? parent()->children() : QObjectList()) {
+        auto *button = qobject_cast<TovuButton *>(child);
+        if (!button || !button->isVisible() || !button->isEnabled() || button->focusPolicy() == Qt::NoFocus)
+            continue;
+        if (button->isCheckable() != isCheckable() || button->accessory() != accessory())
+            continue;
+        // One row shares its top edge, one column its leading edge.
+        if (across ? button->y() != y() : button->x() != x())
+            continue;
+        group.append(button);
+    }
+    std::ranges::sort(group, [across, rightToLeft](const TovuButton *a, const TovuButton *b) {
+        if (!across)
+            return a->y() < b->y();
+        return rightToLeft ? a->x() > b->x() : a->x() < b->x();
+    });
+    const qsizetype at = group.indexOf(const_cast<TovuButton *>(this));
+    const qsizetype next = at + (forward ? 1 : -1);
+    return at >= 0 && next >= 0 && next < group.size() ? group[next] : nullptr;
 }
 
 void TovuButton::focusOutEvent(QFocusEvent *event)
