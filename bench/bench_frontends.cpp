@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QQuickWindow>
+#include <QTest>
 
 #include <benchmark/benchmark.h>
 
@@ -133,15 +134,20 @@ void presentFirstPage(benchmark::State &state, FrontEnd frontEnd)
     }
 }
 
-// From one page to the next, `to`, until it is in a rendered frame.
-void pageTransition(benchmark::State &state, FrontEnd frontEnd, TovuQuestion to, TovuRatingVariant variant)
+// From one page to the next, `to`, until it is in a rendered frame; with `extras`, as a
+// respondent who needs them sees it: the progress indicator on and the focus ring showing.
+void pageTransition(benchmark::State &state, FrontEnd frontEnd, TovuQuestion to, TovuRatingVariant variant,
+                    bool extras = false)
 {
     Session session;
+    session.manager.configureTheme(TovuAppTheme{.showsProgress = extras});
     session.manager.configure(surveyOf({question(TovuQuestionType::singleChoice), std::move(to)}));
     TovuSurveyPresenter *presenter = session.manager.presenter();
     TovuSurvey survey = *session.manager.survey();
     session.manager.presentSurvey(hosts->host(frontEnd));
     hosts->frame(frontEnd);
+    if (extras) // a key press: the next page's first control shows its ring
+        QTest::keyClick(frontEnd == FrontEnd::widgets ? hosts->widget.windowHandle() : &hosts->window, Qt::Key_Tab);
     for (auto _ : state) {
         presenter->showQuestion(TovuPageRequest{.question = survey.questions[1], .variant = variant});
         benchmark::DoNotOptimize(hosts->frame(frontEnd));
@@ -208,9 +214,13 @@ void registerAll()
             {"thankYou", question(Type::thankYou)},
         };
         for (const auto &page : pages) {
-            benchmark::RegisterBenchmark(("BM_PageTransition/" + std::string(page.name) + suffix).c_str(),
-                                         pageTransition, frontEnd, page.question, page.variant)
-                ->Unit(benchmark::kMillisecond);
+            for (const bool extras : {false, true}) {
+                const std::string benchmarkName
+                    = "BM_PageTransition/" + std::string(page.name) + suffix + (extras ? "/progressAndKeys" : "");
+                benchmark::RegisterBenchmark(benchmarkName.c_str(), pageTransition, frontEnd, page.question,
+                                             page.variant, extras)
+                    ->Unit(benchmark::kMillisecond);
+            }
         }
         benchmark::RegisterBenchmark(("BM_SheetMemory" + suffix).c_str(), sheetMemory, frontEnd)->Iterations(3);
     }

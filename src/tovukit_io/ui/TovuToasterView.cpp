@@ -282,13 +282,20 @@ void TovuToasterView::setQuestionView(QWidget *view)
     if (view)
         m_contentStack->addWidget(view);
     layoutPanel();
-    if (view && m_host && !m_dismissing)
-        greetPage(view);
+    // Once the layout has shown the page: showing it here would lay it out twice.
+    if (view && m_host && !m_dismissing) {
+        QMetaObject::invokeMethod(
+            this,
+            [this, page = QPointer<QWidget>(view)] {
+                if (page && !m_dismissing)
+                    greetPage(page);
+            },
+            Qt::QueuedConnection);
+    }
 }
 
 void TovuToasterView::greetPage(QWidget *view)
 {
-    view->show();
     for (QWidget *candidate = view->nextInFocusChain(); candidate && candidate != view;
          candidate = candidate->nextInFocusChain()) {
         if (!view->isAncestorOf(candidate) || !isTabStop(candidate, view))
