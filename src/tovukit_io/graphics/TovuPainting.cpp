@@ -202,3 +202,14 @@ QRect TovuPainting::alignedRect(Qt::LayoutDirection direction, Qt::Alignment ali
         x += rect.width() / 2 - size.width() / 2;
     return QRect(QPoint(x, y), size);
 }
+
+void TovuPainting::paintFocusRing(QPainter &painter, const QRectF &bounds, qreal radius, qreal width, bool filled,
+                                  const QColor &ring, const QColor &background)
+{
+    const qreal inset = filled ? width * 1.5 : width / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(roundedRect(bounds.adjusted(inset, inset, -inset, -inset), std::max<qreal>(0, radius - inset)),
+                       QPen(filled ? background : ring, width));
+    painter.restore();
+}

@@ -44,6 +44,11 @@ public:
     static void paintCached(QPainter &painter, const QRectF &rect, const QString &key,
                             const std::function<void(QPainter &, const QRectF &)> &paint);
 
+    /// The keyboard's focus ring, `width` wide, just inside `bounds` with corners of `radius`:
+    /// in `ring`, or on a control `filled` with a colour of its own in `background`, a little
+    /// further in, so it shows against the fill.
+    static void paintFocusRing(QPainter &painter, const QRectF &bounds, qreal radius, qreal width, bool filled,
+                               const QColor &ring, const QColor &background);
     /// Background over the whole shape, then the border inside it, like a layer's border.
     static void paintBox(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &border,
                          qreal borderWidth, qreal radius);

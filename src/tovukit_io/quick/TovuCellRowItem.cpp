@@ -227,15 +227,9 @@ void TovuCellRowItem::paintFocusRing(QPainter &painter)
 {
     if (!hasActiveFocus() || !TovuQuickStyle::keyboardNavigation() || m_current < 0)
         return;
-    const bool filled = isCellFilled(m_current);
-    const qreal width = TovuPageMetrics::focusRingWidth;
-    const qreal inset = filled ? width * 1.5 : width / 2;
-    const QRectF rect = cellRect(m_current).adjusted(inset, inset, -inset, -inset);
-    const QColor colour
-        = filled ? TovuThemeEngine::shared().backgroundColor() : TovuThemeEngine::shared().primaryColor();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(TovuPainting::roundedRect(rect, TovuPageMetrics::scoreCornerRadius - inset),
-                       QPen(colour, width));
+    TovuPainting::paintFocusRing(painter, cellRect(m_current), TovuPageMetrics::scoreCornerRadius,
+                                 TovuPageMetrics::focusRingWidth, isCellFilled(m_current),
+                                 TovuThemeEngine::shared().primaryColor(), TovuThemeEngine::shared().backgroundColor());
 }
 
 void TovuCellRowItem::cellsChanged()

@@ -4,9 +4,13 @@ list(APPEND ui_sources
   kit/TovuButton.cpp
   kit/TovuButtonAccessible.cpp
   kit/TovuButtonAccessible.h
+  kit/TovuButtonKeys.cpp
+  kit/TovuButtonKeys.h
   kit/TovuButtonScaleEffect.h
   kit/TovuCaptionRow.cpp
   kit/TovuChevron.cpp
+  kit/TovuChoiceMark.cpp
+  kit/TovuChoiceMark.h
   kit/TovuEqualWidthLayout.cpp
   kit/TovuFitLabel.cpp
   kit/TovuHairline.cpp

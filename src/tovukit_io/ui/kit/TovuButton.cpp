@@ -1,6 +1,8 @@
 #include <tovukit_io/ui/kit/TovuButton.h>
 
 #include "TovuButtonAccessible.h"
+#include "TovuButtonKeys.h"
+#include "TovuChoiceMark.h"
 
 #include <tovukit_io/graphics/TovuEmoji.h>
 #include <tovukit_io/graphics/TovuPainting.h>
@@ -406,18 +408,12 @@ void TovuButton::paintContent(QPainter &painter)
     paintLabel(painter, bounds.marginsRemoved(QMarginsF(visualInsets())));
     painter.restore();
 
-    // Keyboard users need to see where they are; a pointer press shows no ring. On a filled
-    // button the ring takes the system background's colour, a little inside the edge.
+    // Keyboard users need to see where they are; a pointer press shows no ring.
     if (hasFocus() && m_keyboardFocus) {
-        const QColor background = backgroundColor();
         const QColor system = TovuPlatformColors::color(TovuPlatformColors::Role::systemBackground);
-        const bool filled = background.alpha() == 255 && background != system;
-        const qreal width = TovuPageMetrics::focusRingWidth;
-        const qreal inset = filled ? width * 1.5 : width / 2;
-        const qreal radius = TovuPainting::effectiveRadius(bounds.size(), m_look.cornerRadius);
-        painter.strokePath(TovuPainting::roundedRect(bounds.adjusted(inset, inset, -inset, -inset),
-                                                     std::max<qreal>(0, radius - inset)),
-                           QPen(filled ? system : accessoryColor(), width));
+        const bool filled = backgroundColor().alpha() == 255 && backgroundColor() != system;
+        TovuPainting::paintFocusRing(painter, bounds, TovuPainting::effectiveRadius(bounds.size(), m_look.cornerRadius),
+                                     TovuPageMetrics::focusRingWidth, filled, accessoryColor(), system);
     }
 }
 
@@ -443,32 +439,7 @@ void TovuButton::paintAccessory(QPainter &painter, const QRectF &bounds)
     const qreal x = layoutDirection() == Qt::RightToLeft ? bounds.right() - m_accessoryInset - side
                                                          : bounds.left() + m_accessoryInset;
     const QRectF mark(x, bounds.center().y() - side / 2, side, side);
-    const bool checked = isChecked();
-    const QColor tint = accessoryColor();
-    const QColor ring = checked ? tint : TovuPlatformColors::color(TovuPlatformColors::Role::gray3);
-    const QColor fill = checked ? tint : QColor(Qt::transparent);
-
-    if (m_accessory == Accessory::radio) {
-        const qreal ringWidth = std::min(Metrics::radioBorderWidth, side / 4);
-        TovuPainting::paintBox(painter, mark, fill, ring, ringWidth, side / 2);
-        if (checked) {
-            // Smaller in small circles.
-            const qreal dot = std::min(Metrics::radioDotSize, side * 0.56);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(Qt::white);
-            painter.drawEllipse(mark.center(), dot / 2, dot / 2);
-        }
-    } else {
-        // Corner and check keep their proportions in a checkbox of another size.
-        const qreal ringWidth = std::min(Metrics::checkboxBorderWidth, side / 4);
-        TovuPainting::paintBox(painter, mark, fill, ring, ringWidth,
-                               side * Metrics::checkboxCornerRadius / Metrics::checkboxSize);
-        if (checked) {
-            const qreal check = side * Metrics::checkGlyphSize / Metrics::checkboxSize;
-            TovuSymbol::paint(painter, QRectF(mark.center() - QPointF(check / 2, check / 2), QSizeF(check, check)),
-                              u"checkmark", QFont::DemiBold, Qt::white);
-        }
-    }
+    TovuChoiceMark::paint(painter, mark, m_accessory == Accessory::radio, isChecked(), accessoryColor());
 }
 
 void TovuButton::changeEvent(QEvent *event)
@@ -511,40 +482,13 @@ void TovuButton::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Right:
     case Qt::Key_Up:
     case Qt::Key_Down:
-        if (TovuButton *next = neighbour(event->key()))
+        if (TovuButton *next = TovuButtonKeys::neighbour(*this, event->key()))
             next->setFocus(Qt::TabFocusReason);
         event->accept();
         return;
     default:
         QAbstractButton::keyPressEvent(event);
     }
-}
-
-TovuButton *TovuButton::neighbour(int key) const
-{
-    const bool across = key == Qt::Key_Left || key == Qt::Key_Right;
-    const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
-    const bool forward = key == Qt::Key_Down || key == (rightToLeft ? Qt::Key_Left : Qt::Key_Right);
-    QList<TovuButton *> group;
-    for (QObject *child : parent() ? parent()->children() : QObjectList()) {
-        auto *button = qobject_cast<TovuButton *>(child);
-        if (!button || !button->isVisible() || !button->isEnabled() || button->focusPolicy() == Qt::NoFocus)
-            continue;
-        if (button->isCheckable() != isCheckable() || button->accessory() != accessory())
-            continue;
-        // One row shares its top edge, one column its leading edge.
-        if (across ? button->y() != y() : button->x() != x())
-            continue;
-        group.append(button);
-    }
-    std::ranges::sort(group, [across, rightToLeft](const TovuButton *a, const TovuButton *b) {
-        if (!across)
-            return a->y() < b->y();
-        return rightToLeft ? a->x() > b->x() : a->x() < b->x();
-    });
-    const qsizetype at = group.indexOf(const_cast<TovuButton *>(this));
-    const qsizetype next = at + (forward ? 1 : -1);
-    return at >= 0 && next >= 0 && next < group.size() ? group[next] : nullptr;
 }
 
 void TovuButton::focusOutEvent(QFocusEvent *event)

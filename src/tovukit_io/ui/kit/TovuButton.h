@@ -129,7 +129,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     /// Space, Enter and Return click; arrow keys move among the buttons of its group
-    /// (see neighbour()) and never out of it.
+    /// (see TovuButtonKeys) and never out of it.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -143,10 +143,6 @@ private:
     QMargins visualInsets() const;
     int textHeight(int width) const;
     void invalidateSizeCache();
-    /// The next (or previous) button of this one's group in reading order: a sibling
-    /// of the same kind (checkable alike, same mark) in the same row for Left and Right,
-    /// the same column for Up and Down. Null at either end.
-    TovuButton *neighbour(int key) const;
 
     TovuBoxLook m_look;
     QColor m_titleColor;
